@@ -1,0 +1,26 @@
+#include "qwxbitmapbutton.h"
+
+#include "controlproperties_p.h"
+
+namespace dbr {
+
+qwxBitmapButton::qwxBitmapButton(const OdString& name, qwxWindow& parent)
+    : qwxControl(name, parent)
+{}
+
+QString qwxBitmapButton::typeId()
+{
+    return QStringLiteral("qwxBitmapButton");
+}
+
+QString qwxBitmapButton::typeName() const
+{
+    return typeId();
+}
+
+void qwxBitmapButton::setBitmap(const wxBitmap& bitmap)
+{
+    controlproperties::setBitmap(*this, bitmap);
+}
+
+} // namespace dbr

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <dlgbridge/core/qwxcontrol.h>
+
+#include <wx/bitmap.h>
+
+namespace dbr {
+
+// A button that shows an image.
+class DLGBRIDGE_EXPORT qwxBitmapButton : public qwxControl
+{
+public:
+    qwxBitmapButton(const OdString& name, qwxWindow& parent);
+
+    static QString typeId();
+    QString typeName() const override;
+
+    void setBitmap(const wxBitmap& bitmap);
+};
+
+} // namespace dbr

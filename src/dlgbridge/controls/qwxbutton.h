@@ -1,0 +1,21 @@
+#pragma once
+
+#include <dlgbridge/core/qwxcontrol.h>
+
+#include <wx/string.h>
+
+namespace dbr {
+
+// A push button.
+class DLGBRIDGE_EXPORT qwxButton : public qwxControl
+{
+public:
+    qwxButton(const OdString& name, qwxWindow& parent);
+
+    static QString typeId();
+    QString typeName() const override;
+
+    void SetLabel(const wxString& label);
+};
+
+} // namespace dbr

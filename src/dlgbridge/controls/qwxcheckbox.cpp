@@ -1,0 +1,36 @@
+#include "qwxcheckbox.h"
+
+#include "controlproperties_p.h"
+
+namespace dbr {
+
+qwxCheckBox::qwxCheckBox(const OdString& name, qwxWindow& parent)
+    : qwxControl(name, parent)
+{}
+
+QString qwxCheckBox::typeId()
+{
+    return QStringLiteral("qwxCheckBox");
+}
+
+QString qwxCheckBox::typeName() const
+{
+    return typeId();
+}
+
+void qwxCheckBox::SetValue(bool checked)
+{
+    controlproperties::setChecked(*this, checked);
+}
+
+bool qwxCheckBox::GetValue() const
+{
+    return controlproperties::isChecked(*this);
+}
+
+bool qwxCheckBox::IsChecked() const
+{
+    return GetValue();
+}
+
+} // namespace dbr

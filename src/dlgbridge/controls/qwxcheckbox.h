@@ -1,0 +1,21 @@
+#pragma once
+
+#include <dlgbridge/core/qwxcontrol.h>
+
+namespace dbr {
+
+// A check box; its state is the item's "checked".
+class DLGBRIDGE_EXPORT qwxCheckBox : public qwxControl
+{
+public:
+    qwxCheckBox(const OdString& name, qwxWindow& parent);
+
+    static QString typeId();
+    QString typeName() const override;
+
+    void SetValue(bool checked);
+    bool GetValue() const;
+    bool IsChecked() const;
+};
+
+} // namespace dbr

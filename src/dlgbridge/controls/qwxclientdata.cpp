@@ -1,0 +1,7 @@
+#include "qwxclientdata.h"
+
+namespace dbr {
+
+qwxClientData::~qwxClientData() = default;
+
+} // namespace dbr

@@ -1,0 +1,29 @@
+#include "qwxspinctrl.h"
+
+namespace dbr {
+
+qwxSpinCtrl::qwxSpinCtrl(const OdString& name, qwxWindow& parent)
+    : qwxControl(name, parent)
+{}
+
+QString qwxSpinCtrl::typeId()
+{
+    return QStringLiteral("qwxSpinCtrl");
+}
+
+QString qwxSpinCtrl::typeName() const
+{
+    return typeId();
+}
+
+int qwxSpinCtrl::GetValue() const
+{
+    return getQmlProperty("value").toInt();
+}
+
+void qwxSpinCtrl::SetValue(int value)
+{
+    setQmlProperty("value", value);
+}
+
+} // namespace dbr

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <dlgbridge/core/qwxcontrol.h>
+
+namespace dbr {
+
+// A number field with up and down buttons.
+class DLGBRIDGE_EXPORT qwxSpinCtrl : public qwxControl
+{
+public:
+    qwxSpinCtrl(const OdString& name, qwxWindow& parent);
+
+    static QString typeId();
+    QString typeName() const override;
+
+    int GetValue() const;
+    void SetValue(int value);
+};
+
+} // namespace dbr

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <dlgbridge/core/qwxcontrol.h>
+
+#include <wx/bitmap.h>
+#include <wx/string.h>
+
+namespace dbr {
+
+// An image, given as a bitmap or as an icon's address.
+class DLGBRIDGE_EXPORT qwxStaticBitmap : public qwxControl
+{
+public:
+    qwxStaticBitmap(const OdString& name, qwxWindow& parent);
+
+    static QString typeId();
+    QString typeName() const override;
+
+    void setBitmap(const wxBitmap& bitmap);
+    void setIcon(const wxString& icon);
+};
+
+} // namespace dbr

@@ -1,0 +1,40 @@
+#include "qwxstatictext.h"
+
+#include "controlproperties_p.h"
+
+#include <QColor>
+
+#include <qut/qtconversions.h>
+
+namespace dbr {
+
+qwxStaticText::qwxStaticText(const OdString& name, qwxWindow& parent)
+    : qwxControl(name, parent)
+{}
+
+QString qwxStaticText::typeId()
+{
+    return QStringLiteral("qwxStaticText");
+}
+
+QString qwxStaticText::typeName() const
+{
+    return typeId();
+}
+
+void qwxStaticText::SetLabel(const wxString& label)
+{
+    controlproperties::setLabel(*this, label);
+}
+
+wxString qwxStaticText::GetLabel() const
+{
+    return qut::wxFromQt(getQmlProperty("text").toString());
+}
+
+void qwxStaticText::SetForegroundColour(const wxColour& colour)
+{
+    setQmlProperty("color", QVariant::fromValue(qut::toQt(colour)));
+}
+
+} // namespace dbr

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <dlgbridge/core/qwxcontrol.h>
+
+#include <wx/colour.h>
+#include <wx/string.h>
+
+namespace dbr {
+
+// A label.
+class DLGBRIDGE_EXPORT qwxStaticText : public qwxControl
+{
+public:
+    qwxStaticText(const OdString& name, qwxWindow& parent);
+
+    static QString typeId();
+    QString typeName() const override;
+
+    void SetLabel(const wxString& label);
+    wxString GetLabel() const;
+    void SetForegroundColour(const wxColour& colour);
+};
+
+} // namespace dbr

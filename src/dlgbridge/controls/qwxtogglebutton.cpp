@@ -1,0 +1,31 @@
+#include "qwxtogglebutton.h"
+
+#include "controlproperties_p.h"
+
+namespace dbr {
+
+qwxToggleButton::qwxToggleButton(const OdString& name, qwxWindow& parent)
+    : qwxControl(name, parent)
+{}
+
+QString qwxToggleButton::typeId()
+{
+    return QStringLiteral("qwxToggleButton");
+}
+
+QString qwxToggleButton::typeName() const
+{
+    return typeId();
+}
+
+void qwxToggleButton::SetActiveChoice(int index)
+{
+    controlproperties::setCurrentIndex(*this, index);
+}
+
+int qwxToggleButton::GetActiveChoice() const
+{
+    return controlproperties::currentIndex(*this);
+}
+
+} // namespace dbr

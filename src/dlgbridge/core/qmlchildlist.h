@@ -1,0 +1,105 @@
+#pragma once
+
+#include "qwxevent.h"
+#include "qwxwindow.h"
+
+#include <QStringList>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+class QObject;
+
+namespace dbr {
+
+class QmlChildListPrivate;
+
+// The wrappers of every named item under one QML root, keyed by object name,
+// with the callback objects of their connections. A host owns one; populate()
+// is the only place its wrappers come from.
+class DLGBRIDGE_EXPORT QmlChildList
+{
+public:
+    using ChildMap = std::map<QString, std::vector<std::unique_ptr<qwxWindow>>>;
+
+    explicit QmlChildList(qwxWindow& parent);
+    ~QmlChildList();
+
+    // Destroys every former wrapper and callback, then wraps the tree under root.
+    void populate(QObject& root);
+    void reset();
+    void resetCallbacks();
+
+    ChildMap& children() const;
+    QObject* root();
+
+    // The wrapper of that name, or the host when the name is its own.
+    qwxWindow* FindWindow(const OdString& name) const;
+
+    template<typename T>
+    T* child(const OdString& name)
+    {
+        qwxWindow* window = FindWindow(name);
+        if (!window)
+            return nullptr;
+        if (T* typed = dynamic_cast<T*>(window))
+            return typed;
+        reportTypeMismatch(name, *window, T::typeId());
+        return nullptr;
+    }
+
+    QObject& addQmlCallback(std::unique_ptr<QObject> callback);
+
+    void TransferDataToWindow();
+    void TransferDataFromWindow();
+
+    // Relays a tick of a timer to the handlers connected to timer events.
+    void onTimer(int id);
+
+    // Connections of a control's QML signal to a handler. The name "wxID_ANY"
+    // connects every control of the kinds the operation is meant for.
+    void connectToTextAcceptedEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    void connectToClickEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    // Connects the standard button of that wx id (wxID_OK, ...).
+    void connectToClickEvent(int id, EventHandler<qwxCommandEvent> handler);
+    void connectToRadioButtonEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    void connectToToggleButtonEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    // The event carries the check box's state after the click.
+    void connectToCheckBoxEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    void connectToNotebookPageChangedEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    // Listens to every menu; the handler hears the items whose string equals name.
+    void connectToMenuEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    void connectToKeyPressedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler);
+    void connectToKeyReleasedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler);
+    void connectToContextMenuEvent(const OdString& name, EventHandler<qwxContextMenuEvent> handler);
+    void connectToContextMenuEvent(const qwxWindow& window, EventHandler<qwxContextMenuEvent> handler);
+    void connectToLeftDoubleClick(const qwxWindow& window, EventHandler<qwxMouseEvent> handler);
+    void connectToSizeEvent(const qwxWindow& window, EventHandler<qwxSizeEvent> handler);
+    // wxID_OK, wxID_CANCEL or wxID_APPLY of the dialog's root item.
+    void connectToDlgResult(int id, EventHandler<qwxCommandEvent> handler);
+    // Ticks of the timer with that id reach the handler; id -1 hears every timer.
+    void connectToTimerEvent(qwxWindow& window, int id, EventHandler<qwxTimerEvent> handler);
+
+private:
+    Q_DISABLE_COPY(QmlChildList)
+
+    using CallbackFactory = std::function<std::unique_ptr<QObject>(qwxWindow*)>;
+
+    // Connects signal of the item called name (or of every wrapper of one of the
+    // types, for "wxID_ANY") to slot of a callback made for its wrapper.
+    bool connectToSignal(const QString& signal, const OdString& name, const CallbackFactory& makeCallback,
+                         const QStringList& types, const std::string& slot,
+                         Qt::ConnectionType type = Qt::AutoConnection);
+    // A connection whose callback raises a command event.
+    void connectCommand(const char* signal, const char* slot, const OdString& name,
+                        EventHandler<qwxCommandEvent> handler, const QStringList& types,
+                        std::function<qwxCommandEvent(qwxWindow*)> eventBuilder = {});
+
+    qwxWindow& parent() const;
+    static void reportTypeMismatch(const OdString& name, const qwxWindow& window, const QString& expectedType);
+
+    std::unique_ptr<QmlChildListPrivate> const d;
+};
+
+} // namespace dbr

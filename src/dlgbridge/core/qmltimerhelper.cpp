@@ -1,0 +1,1 @@
+#include "qmltimerhelper_p.h"

@@ -1,0 +1,7 @@
+#include "qwxwindowfreezer.h"
+
+namespace dbr {
+
+qWxWindowFreezer::qWxWindowFreezer(qwxWindow*) {}
+
+} // namespace dbr

@@ -1,0 +1,20 @@
+// The C++ part of the Arvela.Components module.
+#include "imagecanvas.h"
+
+#include <QQmlExtensionPlugin>
+#include <qqml.h>
+
+namespace dbr::components {
+
+class ComponentsPlugin : public QQmlExtensionPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QQmlExtensionInterface_iid)
+
+public:
+    void registerTypes(const char* uri) override { qmlRegisterType<ImageCanvas>(uri, 1, 0, "ImageCanvas"); }
+};
+
+} // namespace dbr::components
+
+#include "componentsplugin.moc"

@@ -1,0 +1,258 @@
+#include <dlgbridge/core/qmlchildlist.h>
+#include <dlgbridge/core/typetable.h>
+
+#include <QLoggingCategory>
+#include <QQuickItem>
+#include <QTest>
+
+#include "support/logrecorder.h"
+#include "support/messages.h"
+#include "support/qmlfixture.h"
+#include "support/testhost.h"
+
+using namespace dbr;
+using namespace dbr::test;
+
+namespace {
+
+const QString genericWarning = QStringLiteral(
+    "Component \"%1\" ( \"%2\" ) must have a 'qmlType' property to allow creating the correct backend component");
+
+// Makes TestControls and notes the order in which the walk asked for them.
+WrapperFactory recordingFactory(QStringList& created)
+{
+    return [&created](const OdString& name, qwxWindow& parent) {
+        auto wrapper = std::make_unique<TestControl>(name, parent);
+        created.append(wrapper->wrappedObjectName());
+        return wrapper;
+    };
+}
+
+// A wrapper that brings types of its own: "Field" (which the host has
+// registered already) and "Late".
+class RegisteringControl : public TestControl
+{
+public:
+    using TestControl::TestControl;
+    CustomTypes registerCustomTypes() override
+    {
+        return {{QStringLiteral("Field"), factoryOf<RegisteringControl>()},
+                {QStringLiteral("Late"), factoryOf<LateControl>()}};
+    }
+
+    class LateControl : public TestControl
+    {
+    public:
+        using TestControl::TestControl;
+        QString typeName() const override { return QStringLiteral("LateControl"); }
+    };
+};
+
+QStringList keysOf(const QmlChildList::ChildMap& children)
+{
+    QStringList keys;
+    for (const auto& entry : children)
+        keys.append(entry.first);
+    return keys;
+}
+
+} // namespace
+
+class tst_TypeTable : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void typeDecision_data();
+    void typeDecision();
+    void walk_visitsDepthFirstFromTheLastChildAndLogsEachRefusal();
+    void walk_skipsWhatControlsMakeForThemselves();
+    void customTypes_firstRegistrationWinsAndLastsOneWalk();
+
+private:
+    std::unique_ptr<QmlFixture> m_qml;
+};
+
+void tst_TypeTable::initTestCase()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("arvela.qt.dlgconv.init.types.debug=true"));
+}
+
+void tst_TypeTable::init()
+{
+    m_qml = std::make_unique<QmlFixture>();
+}
+
+void tst_TypeTable::cleanup()
+{
+    m_qml.reset();
+}
+
+void tst_TypeTable::typeDecision_data()
+{
+    QTest::addColumn<QByteArray>("qml");
+    QTest::addColumn<QString>("rawType");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QStringList>("warnings");
+
+    const QByteArray imports = "import QtQuick 2.15\nimport QtQuick.Layouts 1.15\n";
+    QTest::newRow("qmlType wins over the file name") << imports + "Field { property string qmlType: \"Button\" }"
+                                                     << "Button"
+                                                     << "Button" << QStringList{};
+    QTest::newRow("type from the file name") << imports + "Field {}"
+                                             << "Field"
+                                             << "Field" << QStringList{};
+    QTest::newRow("non-string qmlType is ignored") << imports + "Field { property int qmlType: 3 }"
+                                                   << "Field"
+                                                   << "Field" << QStringList{};
+    QTest::newRow("empty qmlType string") << imports + "Field { property string qmlType }"
+                                          << ""
+                                          << "" << QStringList{};
+    QTest::newRow("plain Qt Quick class") << imports + "Rectangle {}"
+                                          << "QQuickRectangle"
+                                          << "QQuickRectangle" << QStringList{};
+    QTest::newRow("class outside Qt Quick") << imports + "QtObject { objectName: \"x\" }"
+                                            << ""
+                                            << "" << QStringList{};
+    QTest::newRow("generic item must say what it is") << imports + "Item { objectName: \"box\" }"
+                                                      << "QQuickItem"
+                                                      << "" << QStringList{genericWarning.arg("box", "QQuickItem")};
+    QTest::newRow("generic item named wxID_ANY is quiet") << imports + "Item { objectName: \"wxID_ANY\" }"
+                                                          << "QQuickItem"
+                                                          << "" << QStringList{};
+    QTest::newRow("generic layout named PANEL_ is a pane") << imports + "RowLayout { objectName: \"PANEL_left\" }"
+                                                           << "QQuickRowLayout"
+                                                           << "Pane" << QStringList{};
+    QTest::newRow("PANEL_ is case-sensitive")
+        << imports + "ColumnLayout { objectName: \"panel_left\" }"
+        << "QQuickColumnLayout"
+        << "" << QStringList{genericWarning.arg("panel_left", "QQuickColumnLayout")};
+    QTest::newRow("qmlType makes a generic item specific")
+        << imports + "Item { objectName: \"box\"; property string qmlType: \"Label\" }"
+        << "Label"
+        << "Label" << QStringList{};
+}
+
+void tst_TypeTable::typeDecision()
+{
+    QFETCH(QByteArray, qml);
+    QFETCH(QString, rawType);
+    QFETCH(QString, type);
+    QFETCH(QStringList, warnings);
+
+    QObject* object = m_qml->loadData(qml);
+    QVERIFY(object);
+    QCOMPARE(rawQmlType(object), rawType);
+
+    LogRecorder log;
+    expectMessages(QtWarningMsg, warnings);
+    QCOMPARE(qmlTypeOf(object), type);
+    QCOMPARE(log.lines(), warnings);
+
+    QCOMPARE(rawQmlType(nullptr), QString());
+    QCOMPARE(qmlTypeOf(nullptr), QString());
+}
+
+void tst_TypeTable::walk_visitsDepthFirstFromTheLastChildAndLogsEachRefusal()
+{
+    QStringList created;
+    TestHost host(m_qml->loadFile(QStringLiteral("walk.qml")));
+    host.setCustomTypes(
+        {{QStringLiteral("Field"), recordingFactory(created)}, {QStringLiteral("Pane"), recordingFactory(created)}});
+
+    const QString field = QStringLiteral("Creating object of custom type \"Field\"");
+    const QVector<QPair<QtMsgType, QString>> expected{
+        {QtDebugMsg, "Did not find backend component for \"rect\" with qml type: \"QQuickRectangle\""},
+        {QtWarningMsg, "(menu) 'Menu' is unsupported, use WxConvMenu instead"},
+        {QtDebugMsg, field},
+        {QtWarningMsg, genericWarning.arg("box", "QQuickItem")},
+        {QtWarningMsg, "Unable to get qml type of \"box\" ( QQuickItem )"},
+        {QtDebugMsg, field},
+        {QtDebugMsg, field},
+        {QtDebugMsg, "Creating object of custom type \"Pane\""},
+        {QtDebugMsg, field},
+        {QtDebugMsg, field},
+        {QtDebugMsg, field},
+        {QtDebugMsg, field},
+        {QtDebugMsg, "Created 7 objects"},
+    };
+    QStringList expectedLog;
+    for (const auto& message : expected) {
+        QTest::ignoreMessage(message.first, qPrintable(message.second));
+        expectedLog.append(message.second);
+    }
+    LogRecorder log;
+    host.populate();
+    QCOMPARE(log.lines(), expectedLog);
+
+    QCOMPARE(created, (QStringList{"f", "e", "d", "PANEL_left", "c", "b", "a", "a"}));
+    const auto& children = host.list().children();
+    QCOMPARE(keysOf(children), (QStringList{"PANEL_left", "a", "b", "c", "d", "e", "f"}));
+    QCOMPARE(children.at("a").size(), size_t(2));
+    for (const auto& entry : children) {
+        for (const auto& wrapper : entry.second)
+            QCOMPARE(wrapper->GetParent(), &host);
+    }
+}
+
+void tst_TypeTable::walk_skipsWhatControlsMakeForThemselves()
+{
+    QObject* root = m_qml->loadFile(QStringLiteral("hidden.qml"));
+    QVERIFY(root);
+    auto* pane = root->findChild<QObject*>(QStringLiteral("pane"));
+    auto* contentItem = pane->property("contentItem").value<QQuickItem*>();
+    QCOMPARE(contentItem->metaObject()->className(), "QQuickContentItem");
+    QVERIFY(m_qml->createChild("import QtQuick 2.15\nField { objectName: \"inContent\" }", *contentItem));
+    auto* delegateModel = root->findChild<QObject*>(QStringLiteral("rows"));
+    QCOMPARE(delegateModel->metaObject()->className(), "QQmlDelegateModel");
+    QVERIFY(m_qml->createChild("import QtQuick 2.15\nField { objectName: \"inDelegateModel\" }", *delegateModel));
+
+    // Each of these types would get a wrapper if the walk reached an item of it.
+    CustomTypes everything;
+    for (const char* type :
+         {"Field", "Button", "Pane", "QQuickMnemonicLabel", "QQuickContentItem", "QQmlDelegateModel"})
+        everything.emplace(QString::fromLatin1(type), factoryOf<TestControl>());
+    TestHost host(root);
+    host.setCustomTypes(everything);
+    host.populate();
+
+    QCOMPARE(keysOf(host.list().children()), (QStringList{"ok", "pane"}));
+}
+
+void tst_TypeTable::customTypes_firstRegistrationWinsAndLastsOneWalk()
+{
+    // Visited from the last item up: lateFirst, registrar, lateInside, field, lateOnStack.
+    TestHost host(m_qml->loadData(R"(
+        import QtQuick 2.15
+        import Arvela.Components 1.0
+        DialogAV {
+            Item { objectName: "lateOnStack"; property string qmlType: "Late" }
+            Field { objectName: "field" }
+            Item {
+                objectName: "registrar"; property string qmlType: "Registrar"
+                Item { objectName: "lateInside"; property string qmlType: "Late" }
+            }
+            Item { objectName: "lateFirst"; property string qmlType: "Late" }
+        })"));
+    host.setCustomTypes({{QStringLiteral("Field"), factoryOf<TestControl>()},
+                         {QStringLiteral("Registrar"), factoryOf<RegisteringControl>()}});
+
+    // The second walk starts again from the host's types alone.
+    for (int walk = 0; walk < 2; ++walk) {
+        QTest::ignoreMessage(QtDebugMsg, "Did not find backend component for \"lateFirst\" with qml type: \"Late\"");
+        host.populate();
+        const auto& children = host.list().children();
+        QCOMPARE(keysOf(children), (QStringList{"field", "lateInside", "lateOnStack", "registrar"}));
+        for (const char* late : {"lateInside", "lateOnStack"})
+            QCOMPARE(children.at(late).front()->typeName(), QStringLiteral("LateControl"));
+        QVERIFY(dynamic_cast<RegisteringControl*>(children.at("registrar").front().get()));
+        QVERIFY(!dynamic_cast<RegisteringControl*>(children.at("field").front().get()));
+    }
+}
+
+QTEST_MAIN(tst_TypeTable)
+#include "tst_typetable.moc"

@@ -1,0 +1,29 @@
+#include "itemwindow.h"
+
+#include <QQuickItem>
+#include <QTest>
+
+namespace dbr::test {
+
+ItemWindow::ItemWindow(QObject* root)
+    : m_root(qobject_cast<QQuickItem*>(root))
+{
+    Q_ASSERT(m_root);
+    m_root->setParentItem(m_window.contentItem());
+    m_window.resize(int(m_root->width()), int(m_root->height()));
+    m_window.show();
+    if (!QTest::qWaitForWindowExposed(&m_window))
+        qWarning("The test window was never exposed");
+}
+
+ItemWindow::~ItemWindow() = default;
+
+void ItemWindow::click(QObject* item)
+{
+    auto* quickItem = qobject_cast<QQuickItem*>(item);
+    Q_ASSERT(quickItem);
+    const QPointF centre = quickItem->mapToScene(QPointF(quickItem->width() / 2, quickItem->height() / 2));
+    QTest::mouseClick(&m_window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+}
+
+} // namespace dbr::test

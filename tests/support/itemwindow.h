@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QQuickWindow>
+
+class QQuickItem;
+
+namespace dbr::test {
+
+// Shows a QML item in a real window, offscreen, so that it can be clicked.
+class ItemWindow
+{
+public:
+    explicit ItemWindow(QObject* root);
+    ~ItemWindow();
+
+    // Presses and releases the left button in the middle of the item.
+    void click(QObject* item);
+    QQuickWindow& window() { return m_window; }
+
+private:
+    QQuickWindow m_window;
+    QQuickItem* m_root;
+};
+
+} // namespace dbr::test

@@ -1,0 +1,63 @@
+#include "qmlfixture.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QQmlComponent>
+#include <QUrl>
+
+namespace dbr::test {
+
+QmlFixture::QmlFixture()
+{
+    m_engine.addImportPath(QStringLiteral(DLGBRIDGE_QML_IMPORT_DIR));
+}
+
+QmlFixture::~QmlFixture()
+{
+    // The objects go before the engine that made them.
+    m_roots.clear();
+}
+
+QObject* QmlFixture::loadFile(const QString& fileName)
+{
+    QQmlComponent component(&m_engine,
+                            QUrl::fromLocalFile(QDir(QStringLiteral(DLGBRIDGE_TEST_DATA_DIR)).filePath(fileName)));
+    return keep(instantiate(component));
+}
+
+QObject* QmlFixture::loadData(const QByteArray& qml)
+{
+    return keep(instantiate(qml));
+}
+
+QObject* QmlFixture::createChild(const QByteArray& qml, QObject& parent)
+{
+    QObject* object = instantiate(qml);
+    if (object)
+        object->setParent(&parent);
+    return object;
+}
+
+QObject* QmlFixture::keep(QObject* object)
+{
+    if (object)
+        m_roots.emplace_back(object);
+    return object;
+}
+
+QObject* QmlFixture::instantiate(QQmlComponent& component)
+{
+    QObject* object = component.create();
+    if (!object)
+        qWarning() << component.errors();
+    return object;
+}
+
+QObject* QmlFixture::instantiate(const QByteArray& qml)
+{
+    QQmlComponent component(&m_engine);
+    component.setData(qml, QUrl::fromLocalFile(QStringLiteral(DLGBRIDGE_TEST_DATA_DIR "/inline.qml")));
+    return instantiate(component);
+}
+
+} // namespace dbr::test
