@@ -16,7 +16,12 @@ ItemWindow::ItemWindow(QObject* root)
         qWarning("The test window was never exposed");
 }
 
-ItemWindow::~ItemWindow() = default;
+ItemWindow::~ItemWindow()
+{
+    // The item outlives the window: it must leave the scene while the window can
+    // still free the item's scene graph nodes.
+    m_root->setParentItem(nullptr);
+}
 
 void ItemWindow::click(QObject* item)
 {
