@@ -230,6 +230,7 @@ void tst_TypeTable::customTypes_firstRegistrationWinsAndLastsOneWalk()
         import QtQuick 2.15
         import Arvela.Components 1.0
         DialogAV {
+            showOk: false; showCancel: false
             Item { objectName: "lateOnStack"; property string qmlType: "Late" }
             Field { objectName: "field" }
             Item {

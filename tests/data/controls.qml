@@ -6,8 +6,6 @@ DialogAV {
     height: 800
 
     Column {
-        Button { objectName: "wxID_OK"; text: "OK" }
-        Button { objectName: "wxID_CANCEL"; text: "Cancel" }
         ButtonOutline { objectName: "outline"; text: "Outline" }
         ImageButton { objectName: "picture"; width: 32; height: 32 }
         ToggleButton { objectName: "mode"; model: ["A", "B", "C"] }

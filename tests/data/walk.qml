@@ -3,6 +3,8 @@ import QtQuick.Layouts 1.15
 import Arvela.Components 1.0
 
 DialogAV {
+    showOk: false
+    showCancel: false
     Field { objectName: "a" }
     Item {
         Field { objectName: "a" }

@@ -2,6 +2,8 @@ import QtQuick 2.15
 import Arvela.Components 1.0
 
 DialogAV {
+    showOk: false
+    showCancel: false
     Field { objectName: "first" }
     Item { objectName: "plain" }
     Item {

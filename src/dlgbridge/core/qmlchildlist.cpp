@@ -88,6 +88,11 @@ QObject& QmlChildList::addQmlCallback(std::unique_ptr<QObject> callback)
     return *d->callbacks.back();
 }
 
+void QmlChildList::forEachChild(const std::function<void(qwxWindow&)>& visit) const
+{
+    d->forEachChild(visit);
+}
+
 void QmlChildList::TransferDataToWindow()
 {
     d->forEachChild([](qwxWindow& window) { window.TransferDataToWindow(); });

@@ -32,6 +32,8 @@ public:
     void resetCallbacks();
 
     ChildMap& children() const;
+    // Every wrapper in key order, the wrappers of one name in their order.
+    void forEachChild(const std::function<void(qwxWindow&)>& visit) const;
     QObject* root();
 
     // The wrapper of that name, or the host when the name is its own.

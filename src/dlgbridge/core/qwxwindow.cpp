@@ -173,6 +173,49 @@ QObject* qwxWindow::findObject(const QString& name) const
     return nullptr;
 }
 
+namespace {
+
+// The host first, then every child in key order.
+template<typename Visit>
+void forHostAndChildren(qwxWindow& host, QmlChildList& children, Visit visit)
+{
+    visit(host);
+    children.forEachChild(visit);
+}
+
+} // namespace
+
+bool qwxWindow::doLoadContent(QmlChildList& children)
+{
+    if (m_eventTableLoaded)
+        return false;
+    children.populate(*root());
+    resyncToUI(children);
+    loadEventTables(children);
+    forHostAndChildren(*this, children, [](qwxWindow& window) { window.onCreateWindow(); });
+    return true;
+}
+
+void qwxWindow::loadEventTables(QmlChildList& children)
+{
+    forHostAndChildren(*this, children, [](qwxWindow& window) { window.doEventTableInit(); });
+}
+
+void qwxWindow::resyncToUI(QmlChildList& children)
+{
+    forHostAndChildren(*this, children, [](qwxWindow& window) { window.resyncToUI(); });
+}
+
+void qwxWindow::resetEventTablesLoaded(QmlChildList& children)
+{
+    forHostAndChildren(*this, children, [](qwxWindow& window) { window.resetEventTableLoaded(); });
+}
+
+void qwxWindow::resetEventTableLoaded()
+{
+    m_eventTableLoaded = false;
+}
+
 wxString qwxWindow::GetName() const
 {
     return qut::wxFromQt(wrappedObjectName());

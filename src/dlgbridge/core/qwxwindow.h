@@ -79,6 +79,15 @@ public:
     QVariant getQmlProperty(const std::string& name) const;
     QObject* findObject() const;
 
+    // Content loading, run on a host with its own child list: populate, then
+    // resyncToUI, doEventTableInit and onCreateWindow, each for the host first
+    // and then for every child in key order. False when m_eventTableLoaded is set.
+    bool doLoadContent(QmlChildList& children);
+    void loadEventTables(QmlChildList& children);
+    void resyncToUI(QmlChildList& children);
+    void resetEventTablesLoaded(QmlChildList& children);
+    void resetEventTableLoaded();
+
     wxString GetName() const;
     qwxWindow* GetParent() const;
     void SetParent(qwxWindow* parent);

@@ -12,6 +12,7 @@
 #include <dlgbridge/controls/qwxstaticbitmap.h>
 #include <dlgbridge/controls/qwxstatictext.h>
 #include <dlgbridge/controls/qwxtogglebutton.h>
+#include <dlgbridge/hosting/qwxpanel.h>
 
 #include <QDebug>
 #include <QObject>
@@ -53,7 +54,9 @@ const std::vector<TableRow>& wrapperTable()
         {{"SpinBox"}, &make<qwxSpinCtrl>},
         {{"Image", "ImageAV"}, &make<qwxStaticBitmap>},
         {{"ImageButton"}, &make<qwxBitmapButton>},
+        {{"Panel"}, &make<qwxPanel>},
         {{"ProgressBar"}, &make<qwxGauge>},
+        {{"Pane"}, &make<qwxPanel>},
     };
     return rows;
 }

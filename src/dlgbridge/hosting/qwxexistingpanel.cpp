@@ -1,0 +1,92 @@
+#include "qwxexistingpanel.h"
+
+#include "iwxqtpanel.h"
+
+#include <dlgbridge/core/qmlchildlist.h>
+
+namespace dbr {
+
+IWxQtPanel::~IWxQtPanel() = default;
+
+class qwxExistingPanelPrivate
+{
+public:
+    explicit qwxExistingPanelPrivate(qwxWindow& owner)
+        : children(owner)
+    {}
+
+    CustomTypes customTypes;
+    QmlChildList children;
+    IWxQtPanel* panel = nullptr;
+};
+
+qwxExistingPanel::qwxExistingPanel()
+    : d(std::make_unique<qwxExistingPanelPrivate>(*this))
+{}
+
+qwxExistingPanel::~qwxExistingPanel() = default;
+
+QString qwxExistingPanel::typeId()
+{
+    return QStringLiteral("qwxExistingPanel");
+}
+
+QString qwxExistingPanel::typeName() const
+{
+    return typeId();
+}
+
+QObject* qwxExistingPanel::root() const
+{
+    return d->panel ? d->panel->root() : nullptr;
+}
+
+wxWindow* qwxExistingPanel::wx()
+{
+    return d->panel ? d->panel->wx() : nullptr;
+}
+
+const QmlChildList* qwxExistingPanel::qmlChildren(UseParentListIfNone) const
+{
+    return &d->children;
+}
+
+QmlChildList* qwxExistingPanel::qmlChildren(UseParentListIfNone)
+{
+    return &d->children;
+}
+
+CustomTypes qwxExistingPanel::registerCustomTypes()
+{
+    return d->customTypes;
+}
+
+void qwxExistingPanel::setPanel(IWxQtPanel* panel)
+{
+    d->panel = panel;
+}
+
+void qwxExistingPanel::setCustomTypes(const CustomTypes& types)
+{
+    if (&types != &d->customTypes)
+        d->customTypes = types;
+}
+
+void qwxExistingPanel::loadContent()
+{
+    if (!root()) {
+        qCritical("Unable to set up panel: no root object found");
+        return;
+    }
+    doLoadContent(d->children);
+}
+
+void qwxExistingPanel::onQmlReloaded()
+{
+    d->children.resetCallbacks();
+    resyncToUI(d->children);
+    resetEventTablesLoaded(d->children);
+    loadEventTables(d->children);
+}
+
+} // namespace dbr

@@ -1,0 +1,7 @@
+#include "iguicontroller.h"
+
+namespace dbr {
+
+IGuiController::~IGuiController() = default;
+
+} // namespace dbr

@@ -1,0 +1,174 @@
+#include "quickdialog.h"
+
+#include "qmlwindow.h"
+
+#include <dlgbridge/hosting/basedialogcontroller.h>
+
+#include <QEventLoop>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace dbr::quickhost {
+
+namespace {
+constexpr int wxIdOk = 5100;
+constexpr int wxIdCancel = 5101;
+} // namespace
+
+class QuickDialogPrivate
+{
+public:
+    QuickDialogPrivate(QQmlEngine& engine, const QUrl& url, BaseDialogController* dialogController)
+        : controller(dialogController)
+        , content(engine, url, dialogController)
+    {}
+
+    BaseDialogController* controller;
+    QmlWindow content;
+    QEventLoop* modalLoop = nullptr;
+    int returnCode = 0;
+};
+
+QuickDialog::QuickDialog(QQmlEngine& engine, const QUrl& url, BaseDialogController* controller)
+    : d(std::make_unique<QuickDialogPrivate>(engine, url, controller))
+{
+    connectRoot();
+}
+
+QuickDialog::~QuickDialog() = default;
+
+void QuickDialog::Show()
+{
+    d->content.window().show();
+}
+
+int QuickDialog::ShowModal()
+{
+    QQuickWindow& window = d->content.window();
+    window.setModality(Qt::ApplicationModal);
+    window.show();
+    QEventLoop loop;
+    d->modalLoop = &loop;
+    loop.exec();
+    d->modalLoop = nullptr;
+    window.hide();
+    window.setModality(Qt::NonModal);
+    return d->returnCode;
+}
+
+void QuickDialog::Hide(int returnCode)
+{
+    EndModal(returnCode);
+}
+
+int QuickDialog::GetReturnCode()
+{
+    return d->returnCode;
+}
+
+bool QuickDialog::IsModal()
+{
+    return d->modalLoop != nullptr;
+}
+
+void QuickDialog::EndModal(int returnCode)
+{
+    d->returnCode = returnCode;
+    if (d->modalLoop)
+        d->modalLoop->exit();
+    d->content.window().hide();
+}
+
+void QuickDialog::hostOperationA() {}
+
+void QuickDialog::hostOperationB() {}
+
+void QuickDialog::SetTitle(const QString& title)
+{
+    d->content.window().setTitle(title);
+}
+
+bool QuickDialog::isReady()
+{
+    return d->content.root() && d->content.window().isExposed();
+}
+
+bool QuickDialog::waitForExposed()
+{
+    return d->content.waitForExposed();
+}
+
+void QuickDialog::aboutToBeDestroyed()
+{
+    // A dialog must not leave a loop running for an object that is gone.
+    EndModal(d->returnCode);
+}
+
+QUrl QuickDialog::sourceUrl()
+{
+    return d->content.url();
+}
+
+QObject* QuickDialog::root()
+{
+    return d->content.root();
+}
+
+wxWindow* QuickDialog::wx()
+{
+    return nullptr;
+}
+
+QQmlEngine* QuickDialog::engine()
+{
+    return &d->content.engine();
+}
+
+QQuickWindow& QuickDialog::window() const
+{
+    return d->content.window();
+}
+
+void QuickDialog::reload()
+{
+    d->content.reload();
+    connectRoot();
+    if (d->controller)
+        d->controller->afterReset();
+}
+
+void QuickDialog::onAccepted()
+{
+    requestEnd(wxIdOk);
+}
+
+void QuickDialog::onRejected()
+{
+    requestEnd(wxIdCancel);
+}
+
+void QuickDialog::connectRoot()
+{
+    QQuickItem* root = d->content.root();
+    if (!root)
+        return;
+    // Only a DialogAV root ends itself; other roots are ended by dialog code.
+    const QMetaObject* meta = root->metaObject();
+    if (meta->indexOfSignal("accepted()") >= 0)
+        connect(root, SIGNAL(accepted()), this, SLOT(onAccepted()));
+    if (meta->indexOfSignal("rejected()") >= 0)
+        connect(root, SIGNAL(rejected()), this, SLOT(onRejected()));
+}
+
+void QuickDialog::requestEnd(int returnCode)
+{
+    if (d->controller) {
+        const bool agreed =
+            IsModal() ? d->controller->beforeEndModal(returnCode) : d->controller->beforeEndNonModal(returnCode);
+        if (!agreed)
+            return;
+    }
+    EndModal(returnCode);
+}
+
+} // namespace dbr::quickhost

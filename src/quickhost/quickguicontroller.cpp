@@ -1,0 +1,117 @@
+#include "quickguicontroller.h"
+
+#include "quickdialog.h"
+
+#include <algorithm>
+
+namespace dbr::quickhost {
+
+QuickGuiController::QuickGuiController(QQmlEngine& engine)
+    : m_engine(engine)
+{}
+
+QuickGuiController::~QuickGuiController() = default;
+
+std::unique_ptr<IWxQtDialog> QuickGuiController::createDialog(const QUrl& url, BaseDialogController* controller,
+                                                              EResizable, DialogOptions, wxWindow*)
+{
+    return std::make_unique<QuickDialog>(m_engine, url, controller);
+}
+
+void QuickGuiController::reserved3() {}
+void QuickGuiController::reserved4() {}
+void QuickGuiController::reserved5() {}
+
+void QuickGuiController::attachContextDialog(IWxQtDialog* dialog)
+{
+    m_attached.push_back(dialog);
+}
+
+void QuickGuiController::detachContextDialog(IWxQtDialog* dialog)
+{
+    m_attached.erase(std::remove(m_attached.begin(), m_attached.end(), dialog), m_attached.end());
+}
+
+void QuickGuiController::reserved8() {}
+void QuickGuiController::reserved9() {}
+void QuickGuiController::reserved10() {}
+void QuickGuiController::reserved11() {}
+void QuickGuiController::reserved12() {}
+
+bool QuickGuiController::acceptsColor(const OdCmColor&, int)
+{
+    return false;
+}
+
+OdArray<int> QuickGuiController::colorIndexList(int)
+{
+    return {};
+}
+
+std::optional<int> QuickGuiController::addColor(const OdCmColor&, int)
+{
+    return std::nullopt;
+}
+
+const OdCmColor& QuickGuiController::colorAt(int, int)
+{
+    return m_byLayer;
+}
+
+ColorRowInfo QuickGuiController::colorRowInfo(const OdCmColor&, const wxColour&, bool, int)
+{
+    return {};
+}
+
+unsigned int QuickGuiController::colorDialogOptions(int, bool)
+{
+    return 0;
+}
+
+OdString QuickGuiController::localLineTypeName(const OdChar* globalName)
+{
+    return OdString(globalName);
+}
+
+bool QuickGuiController::lineTypeIds(OdDbDatabase*, bool, OdDbObjectId*, bool, LineTypeIdList&)
+{
+    return false;
+}
+
+bool QuickGuiController::drawLineTypePreview(int, int, const wxColour&, OdDbObjectId, OdDbObjectId, const OdString&,
+                                             wxBitmap&)
+{
+    return false;
+}
+
+int QuickGuiController::lineWeightCount()
+{
+    return 0;
+}
+
+OdDb::LineWeight QuickGuiController::lineWeightAt(int)
+{
+    return OdDb::kLnWtByLwDefault;
+}
+
+OdString QuickGuiController::lineWeightName(OdDb::LineWeight)
+{
+    return OdString();
+}
+
+void QuickGuiController::reserved25() {}
+void QuickGuiController::reserved26() {}
+void QuickGuiController::reserved27() {}
+void QuickGuiController::reserved28() {}
+void QuickGuiController::reserved29() {}
+void QuickGuiController::reserved30() {}
+void QuickGuiController::reserved31() {}
+void QuickGuiController::reserved32() {}
+void QuickGuiController::reserved33() {}
+
+const std::vector<IWxQtDialog*>& QuickGuiController::attachedDialogs() const
+{
+    return m_attached;
+}
+
+} // namespace dbr::quickhost

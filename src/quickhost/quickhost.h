@@ -1,0 +1,31 @@
+#pragma once
+
+#include "quickguicontroller.h"
+
+#include <QQmlEngine>
+
+#include <oa/OaApp.h>
+
+namespace dbr::quickhost {
+
+// The reference application: one QML engine that reaches the component kit,
+// the GUI controller built on it, and the application object, installed as
+// oa::OaApp::s_app for the host's lifetime.
+class QuickHost
+{
+public:
+    explicit QuickHost(const QStringList& importPaths = {});
+    ~QuickHost();
+
+    QQmlEngine& engine() { return m_engine; }
+    QuickGuiController& guiController() { return m_guiController; }
+
+private:
+    Q_DISABLE_COPY(QuickHost)
+
+    QQmlEngine m_engine;
+    QuickGuiController m_guiController;
+    oa::OaApp m_app;
+};
+
+} // namespace dbr::quickhost
