@@ -25,10 +25,15 @@ ItemWindow::~ItemWindow()
 
 void ItemWindow::click(QObject* item)
 {
+    clickItem(item);
+}
+
+void clickItem(QObject* item)
+{
     auto* quickItem = qobject_cast<QQuickItem*>(item);
-    Q_ASSERT(quickItem);
+    Q_ASSERT(quickItem && quickItem->window());
     const QPointF centre = quickItem->mapToScene(QPointF(quickItem->width() / 2, quickItem->height() / 2));
-    QTest::mouseClick(&m_window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+    QTest::mouseClick(quickItem->window(), Qt::LeftButton, Qt::NoModifier, centre.toPoint());
 }
 
 } // namespace dbr::test

@@ -22,4 +22,7 @@ private:
     QQuickItem* m_root;
 };
 
+// Presses and releases the left button in the middle of a shown item.
+void clickItem(QObject* item);
+
 } // namespace dbr::test

@@ -1,7 +1,8 @@
 #include "qmlfixture.h"
 
+#include "paths.h"
+
 #include <QDebug>
-#include <QDir>
 #include <QQmlComponent>
 #include <QUrl>
 
@@ -9,7 +10,7 @@ namespace dbr::test {
 
 QmlFixture::QmlFixture()
 {
-    m_engine.addImportPath(QStringLiteral(DLGBRIDGE_QML_IMPORT_DIR));
+    m_engine.addImportPath(qmlImportDir());
 }
 
 QmlFixture::~QmlFixture()
@@ -20,8 +21,7 @@ QmlFixture::~QmlFixture()
 
 QObject* QmlFixture::loadFile(const QString& fileName)
 {
-    QQmlComponent component(&m_engine,
-                            QUrl::fromLocalFile(QDir(QStringLiteral(DLGBRIDGE_TEST_DATA_DIR)).filePath(fileName)));
+    QQmlComponent component(&m_engine, testDataUrl(fileName));
     return keep(instantiate(component));
 }
 
@@ -56,7 +56,7 @@ QObject* QmlFixture::instantiate(QQmlComponent& component)
 QObject* QmlFixture::instantiate(const QByteArray& qml)
 {
     QQmlComponent component(&m_engine);
-    component.setData(qml, QUrl::fromLocalFile(QStringLiteral(DLGBRIDGE_TEST_DATA_DIR "/inline.qml")));
+    component.setData(qml, testDataUrl(QStringLiteral("inline.qml")));
     return instantiate(component);
 }
 

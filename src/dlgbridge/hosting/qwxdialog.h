@@ -2,6 +2,7 @@
 
 #include <dlgbridge/core/qwxwindow.h>
 #include <dlgbridge/hosting/iwxqtdialog.h>
+#include <dlgbridge/hosting/qwxdialogcontroller.h>
 
 #include <QObject>
 
@@ -16,7 +17,6 @@ class QUrl;
 
 namespace dbr {
 
-class QwxDialogController;
 class qwxDialogPrivate;
 class qwxInitDialogEvent;
 

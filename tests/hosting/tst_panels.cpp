@@ -1,0 +1,153 @@
+#include <support/paths.h>
+#include <support/qmlfixture.h>
+#include <support/testdialog.h>
+#include <support/testhost.h>
+
+#include <dlgbridge/core/qmlchildlist.h>
+#include <dlgbridge/hosting/qwxexistingpanel.h>
+#include <dlgbridge/hosting/qwxpanel.h>
+
+#include <quickhost/quickhost.h>
+#include <quickhost/quickpanel.h>
+
+#include <QQuickItem>
+#include <QTest>
+
+using namespace dbr;
+using namespace dbr::test;
+
+namespace {
+
+// An existing panel as application code writes one: it binds in doEventTableInit.
+class ToolPanel : public qwxExistingPanel
+{
+public:
+    QStringList journal;
+    int clicks = 0;
+
+    void resyncToUI() override { journal.append(QStringLiteral("resync")); }
+    void onCreateWindow() override { journal.append(QStringLiteral("createWindow")); }
+    void doEventTableInit() override
+    {
+        journal.append(QStringLiteral("eventTable"));
+        qmlChildren(UseParentList)->connectToClickEvent("go", [this](qwxCommandEvent&) { ++clicks; });
+    }
+};
+
+void emitClicked(QObject* item)
+{
+    QVERIFY(item);
+    QVERIFY(QMetaObject::invokeMethod(item, "clicked"));
+}
+
+} // namespace
+
+class tst_Panels : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void panelsOfADialog_areWrappersOfTheDialogsList();
+    void init_findsTheItemOnceOrSaysWhy();
+    void reparent_movesTheItemAndThenTheWrapper();
+    void existingPanel_bindsAndRebindsAfterAReload();
+
+private:
+    QmlFixture m_qml;
+};
+
+void tst_Panels::panelsOfADialog_areWrappersOfTheDialogsList()
+{
+    quickhost::QuickHost host({qmlImportDir()});
+    TestDialog dialog;
+    QVERIFY(wut::doLoadDialog(&dialog, nullptr, testDataUrl(QStringLiteral("dialog.qml")), NotResizable, {}, nullptr));
+    dialog.Show();
+    QTRY_VERIFY(dialog.journal.contains(QStringLiteral("createDialog")));
+
+    for (const char* name : {"details", "PANEL_side"}) {
+        auto* panel = dynamic_cast<qwxPanel*>(dialog.FindWindow(name));
+        QVERIFY2(panel, name);
+        QCOMPARE(panel->root(), dialog.item(name));
+        QCOMPARE(panel->qmlChildren(qwxWindow::UseParentList), dialog.qmlChildren(qwxWindow::OwnListOnly));
+        QVERIFY(!panel->qmlChildren(qwxWindow::OwnListOnly));
+    }
+    // Controls inside panels belong to the dialog.
+    QCOMPARE(dialog.FindWindow("count")->GetParent(), static_cast<qwxWindow*>(&dialog));
+    QVERIFY(dialog.FindWindow("more"));
+}
+
+void tst_Panels::init_findsTheItemOnceOrSaysWhy()
+{
+    TestHost host;
+    QTest::ignoreMessage(QtCriticalMsg, "Unable to create panel (details): invalid parent root");
+    qwxPanel panel("details", host);
+    QVERIFY(!panel.root());
+
+    host.setRoot(m_qml.loadFile(QStringLiteral("dialog.qml")));
+    QTest::ignoreMessage(QtCriticalMsg, "Unable to create panel: panel root 'nothing' not found");
+    QVERIFY(!panel.init(QStringLiteral("nothing")));
+    QVERIFY(wut::loadPanel(&panel, QStringLiteral("details")));
+    QObject* details = panel.root();
+    QCOMPARE(details->objectName(), QStringLiteral("details"));
+
+    // A second init succeeds without searching again.
+    QTest::ignoreMessage(QtWarningMsg, "Panel 'details' is already initialized");
+    QVERIFY(panel.init(QStringLiteral("PANEL_side")));
+    QCOMPARE(panel.root(), details);
+
+    QTest::ignoreMessage(QtCriticalMsg, "Attempt to load empty panel \"x\"");
+    QVERIFY(!wut::loadPanel(nullptr, QStringLiteral("x")));
+}
+
+void tst_Panels::reparent_movesTheItemAndThenTheWrapper()
+{
+    TestHost host(m_qml.loadFile(QStringLiteral("dialog.qml")));
+    qwxPanel details("details", host);
+    qwxPanel side("PANEL_side", host);
+    auto* sideItem = qobject_cast<QQuickItem*>(side.root());
+
+    // Into a panel built on a component with a content item: the children go there.
+    side.Reparent(details);
+    QCOMPARE(side.GetParent(), static_cast<qwxWindow*>(&details));
+    QCOMPARE(QVariant::fromValue<QObject*>(sideItem->parentItem()), details.root()->property("contentItem"));
+
+    // Into a window that isn't a panel: its own item.
+    side.Reparent(host);
+    QCOMPARE(sideItem->parentItem(), host.root());
+
+    // A panel without item can't move, so it keeps its parent.
+    qwxPanel lost(host);
+    QTest::ignoreMessage(QtWarningMsg, "('', type: 'qwxPanel') Unable to set qml property parent: no root object");
+    lost.Reparent(details);
+    QCOMPARE(lost.GetParent(), static_cast<qwxWindow*>(&host));
+}
+
+void tst_Panels::existingPanel_bindsAndRebindsAfterAReload()
+{
+    quickhost::QuickHost host({qmlImportDir()});
+    ToolPanel panel;
+    QVERIFY(!panel.root());
+    QTest::ignoreMessage(QtCriticalMsg, "Unable to set up panel: no root object found");
+    panel.loadContent();
+    QVERIFY(panel.journal.isEmpty());
+
+    quickhost::QuickPanel application(host.engine(), testDataUrl(QStringLiteral("toolpanel.qml")));
+    QObject::connect(&application, &quickhost::QuickPanel::reloaded, [&panel] { panel.onQmlReloaded(); });
+    panel.setPanel(&application);
+    panel.loadContent();
+    qwxWindow* go = panel.FindWindow("go");
+    QVERIFY(go);
+    emitClicked(application.root()->findChild<QObject*>(QStringLiteral("go")));
+    QCOMPARE(panel.clicks, 1);
+
+    panel.journal.clear();
+    application.reload();
+    // The wrappers stay and find the new items; only the new connection hears.
+    QCOMPARE(panel.journal, (QStringList{"resync", "eventTable"}));
+    QCOMPARE(panel.FindWindow("go"), go);
+    emitClicked(application.root()->findChild<QObject*>(QStringLiteral("go")));
+    QCOMPARE(panel.clicks, 2);
+}
+
+QTEST_MAIN(tst_Panels)
+#include "tst_panels.moc"
