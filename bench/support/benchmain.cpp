@@ -62,6 +62,9 @@ int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Offscreen there is no OpenGL for windows that get shown.
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication app(argc, argv);
     qInstallMessageHandler(discardMessages);
     QLoggingCategory::setFilterRules(QStringLiteral("arvela.qt.dlgconv.*.debug=false"));

@@ -8,6 +8,8 @@ FocusScope {
     id: dialog
 
     objectName: "DialogAV"
+    // A dialog's file names its own type; the root is still the dialog, which has no wrapper.
+    readonly property string qmlType: "DialogAV"
     property string title
     property bool showOk: true
     property bool showCancel: true

@@ -1,0 +1,84 @@
+#include "scriptedrun.h"
+
+#include "sampledialog.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QMouseEvent>
+#include <QQuickItem>
+#include <QQuickItemGrabResult>
+#include <QQuickWindow>
+#include <QTimer>
+
+namespace {
+// Long enough for the preview's timer to fill the gauge between two steps.
+constexpr int stepIntervalMs = 300;
+} // namespace
+
+ScriptedRun::ScriptedRun(SampleDialog& dialog, QString screenshotPath)
+    : m_dialog(dialog)
+    , m_screenshotPath(std::move(screenshotPath))
+{
+    m_steps = {
+        [this] { m_dialog.waitForExposed(); },
+        [this] { click("preview"); },
+        [this] { click("wxID_OK"); },
+        [this] { click("agree"); },
+        [this] { setOn("style", "currentIndex", 1); },
+        [this] { setOn("copies", "value", 3); },
+        [this] { click("wxID_APPLY"); },
+        [this] { saveScreenshot(); },
+        [this] { click("wxID_OK"); },
+    };
+}
+
+void ScriptedRun::start()
+{
+    QTimer::singleShot(stepIntervalMs, this, &ScriptedRun::next);
+}
+
+void ScriptedRun::next()
+{
+    if (m_next == m_steps.size())
+        return;
+    m_steps[m_next++]();
+    QTimer::singleShot(stepIntervalMs, this, &ScriptedRun::next);
+}
+
+void ScriptedRun::click(const char* name)
+{
+    auto* item = m_dialog.root()->findChild<QQuickItem*>(QLatin1String(name));
+    if (!item || !item->window()) {
+        qWarning() << "The script found no item" << name;
+        return;
+    }
+    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    const QPoint global = item->window()->mapToGlobal(centre.toPoint());
+    QMouseEvent press(QEvent::MouseButtonPress, centre, centre, global, Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(item->window(), &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, centre, centre, global, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QCoreApplication::sendEvent(item->window(), &release);
+}
+
+void ScriptedRun::setOn(const char* name, const char* property, const QVariant& value)
+{
+    m_dialog.root()->findChild<QObject*>(QLatin1String(name))->setProperty(property, value);
+}
+
+void ScriptedRun::saveScreenshot()
+{
+    // grabWindow() gives nothing with the software backend offscreen; an item grab does.
+    auto* root = qobject_cast<QQuickItem*>(m_dialog.root());
+    m_grab = root ? root->grabToImage() : nullptr;
+    if (!m_grab) {
+        qWarning() << "Could not grab the dialog for a screenshot";
+        return;
+    }
+    connect(m_grab.data(), &QQuickItemGrabResult::ready, this, [this] {
+        m_screenshotSaved = m_grab->image().save(m_screenshotPath);
+        if (!m_screenshotSaved)
+            qWarning() << "Could not save a screenshot to" << m_screenshotPath;
+    });
+}

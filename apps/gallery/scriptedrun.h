@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+#include <QSharedPointer>
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <vector>
+
+class QQuickItemGrabResult;
+class SampleDialog;
+
+// Plays a user through the sample dialog's real QML items while it runs
+// modally: preview, a refused OK, a check, more copies, a screenshot, OK.
+class ScriptedRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    ScriptedRun(SampleDialog& dialog, QString screenshotPath);
+
+    // Starts the steps; they run from the dialog's modal loop.
+    void start();
+    bool screenshotSaved() const { return m_screenshotSaved; }
+
+private:
+    void next();
+    void click(const char* name);
+    void setOn(const char* name, const char* property, const QVariant& value);
+    void saveScreenshot();
+
+    SampleDialog& m_dialog;
+    const QString m_screenshotPath;
+    std::vector<std::function<void()>> m_steps;
+    size_t m_next = 0;
+    QSharedPointer<QQuickItemGrabResult> m_grab;
+    bool m_screenshotSaved = false;
+};
