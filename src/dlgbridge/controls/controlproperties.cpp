@@ -2,7 +2,9 @@
 
 #include <dlgbridge/core/qwxwindow.h>
 
+#include <QAbstractItemModel>
 #include <QImage>
+#include <QStringList>
 
 #include <qut/qtconversions.h>
 
@@ -11,6 +13,11 @@ namespace dbr::controlproperties {
 void setLabel(qwxWindow& control, const wxString& label)
 {
     control.setQmlProperty("text", qut::toQt(label));
+}
+
+wxString stringProperty(const qwxWindow& control, const char* name)
+{
+    return qut::wxFromQt(control.getQmlProperty(name).toString());
 }
 
 void setBitmap(qwxWindow& control, const wxBitmap& bitmap)
@@ -26,6 +33,17 @@ void setChecked(qwxWindow& control, bool checked)
 bool isChecked(const qwxWindow& control)
 {
     return control.getQmlProperty("checked").toBool();
+}
+
+std::vector<QString> modelStrings(const qwxWindow& control)
+{
+    const QStringList strings = control.getQmlProperty("model").toStringList();
+    return std::vector<QString>(strings.begin(), strings.end());
+}
+
+void setModel(qwxWindow& control, QAbstractItemModel* model)
+{
+    control.setQmlProperty("model", QVariant::fromValue(static_cast<QObject*>(model)));
 }
 
 void setCurrentIndex(qwxWindow& control, int index)

@@ -1,7 +1,13 @@
 #pragma once
 
+#include <QString>
+
 #include <wx/bitmap.h>
 #include <wx/string.h>
+
+#include <vector>
+
+class QAbstractItemModel;
 
 namespace dbr {
 
@@ -12,11 +18,16 @@ namespace controlproperties {
 
 // "text"
 void setLabel(qwxWindow& control, const wxString& label);
+// Any string property, as wx text.
+wxString stringProperty(const qwxWindow& control, const char* name);
 // "image", as a QImage
 void setBitmap(qwxWindow& control, const wxBitmap& bitmap);
 // "checked"
 void setChecked(qwxWindow& control, bool checked);
 bool isChecked(const qwxWindow& control);
+// "model": the entries written in the QML file, and the model that replaces them.
+std::vector<QString> modelStrings(const qwxWindow& control);
+void setModel(qwxWindow& control, QAbstractItemModel* model);
 // "currentIndex"
 void setCurrentIndex(qwxWindow& control, int index);
 int currentIndex(const qwxWindow& control);

@@ -29,7 +29,7 @@ void qwxStaticText::SetLabel(const wxString& label)
 
 wxString qwxStaticText::GetLabel() const
 {
-    return qut::wxFromQt(getQmlProperty("text").toString());
+    return controlproperties::stringProperty(*this, "text");
 }
 
 void qwxStaticText::SetForegroundColour(const wxColour& colour)

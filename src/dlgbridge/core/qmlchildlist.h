@@ -72,6 +72,12 @@ public:
     void connectToNotebookPageChangedEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
     // Listens to every menu; the handler hears the items whose string equals name.
     void connectToMenuEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    // The event carries the control's text (a spin control's value) as it is when the signal arrives.
+    void connectToTextEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    // The event carries the selection and the client data of the selected entry.
+    void connectToChoiceEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    // The event carries the combo's text.
+    void connectToComboEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
     void connectToKeyPressedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler);
     void connectToKeyReleasedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler);
     void connectToContextMenuEvent(const OdString& name, EventHandler<qwxContextMenuEvent> handler);

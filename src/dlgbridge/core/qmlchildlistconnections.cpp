@@ -6,6 +6,11 @@
 #include "qmlchildlist_p.h"
 
 #include <dlgbridge/controls/qwxcheckbox.h>
+#include <dlgbridge/controls/qwxchoice.h>
+#include <dlgbridge/controls/qwxcombobox.h>
+#include <dlgbridge/controls/qwxsearchctrl.h>
+#include <dlgbridge/controls/qwxspinctrl.h>
+#include <dlgbridge/controls/qwxtextctrl.h>
 
 #include <QDebug>
 
@@ -65,6 +70,35 @@ qwxCommandEvent checkBoxState(qwxWindow* window)
     if (auto* checkBox = dynamic_cast<qwxCheckBox*>(window))
         return qwxCommandEvent(window, checkBox->GetValue());
     return qwxCommandEvent(window);
+}
+
+// The current value of a text, search, combo or spin control, read when the signal arrives.
+qwxCommandEvent textValue(qwxWindow* window)
+{
+    if (auto* search = dynamic_cast<qwxSearchCtrl*>(window))
+        return qwxCommandEvent(window, search->GetValue(), nullptr);
+    if (auto* text = dynamic_cast<qwxTextCtrl*>(window))
+        return qwxCommandEvent(window, text->GetValue(), nullptr);
+    if (auto* combo = dynamic_cast<qwxComboBox*>(window))
+        return qwxCommandEvent(window, combo->GetValue(), nullptr);
+    if (auto* spin = dynamic_cast<qwxSpinCtrl*>(window))
+        return qwxCommandEvent(window, spin->GetValue(), nullptr);
+    return qwxCommandEvent(window);
+}
+
+qwxCommandEvent choiceSelection(qwxWindow* window)
+{
+    auto* choice = dynamic_cast<qwxChoice*>(window);
+    if (!choice)
+        return qwxCommandEvent(window);
+    const int selection = choice->GetSelection();
+    return qwxCommandEvent(window, selection, choice->GetClientObject(selection));
+}
+
+qwxCommandEvent comboValue(qwxWindow* window)
+{
+    auto* combo = dynamic_cast<qwxComboBox*>(window);
+    return combo ? qwxCommandEvent(window, combo->GetValue(), nullptr) : qwxCommandEvent(window);
 }
 
 } // namespace
@@ -176,6 +210,36 @@ void QmlChildList::connectToMenuEvent(const OdString& name, EventHandler<qwxComm
     };
     connectCommand("2menuItemTriggered(QString)", "1onStringEvent(QString)", OdString("wxID_ANY"), std::move(onItem),
                    {"qwxMenu"});
+}
+
+void QmlChildList::connectToTextEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
+{
+    const char* comboSignal = "2editTextChanged()";
+    const char* textSignal = "2textChanged()";
+    if (qut::toQt(name) == wxIdAny) {
+        connectCommand(comboSignal, "1onEvent()", name, handler, {qwxComboBox::typeId()}, textValue);
+        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {qwxTextCtrl::typeId()}, textValue);
+        return;
+    }
+    // An unknown name takes the text path, whose refusal logs why.
+    const qwxWindow* window = FindWindow(name);
+    const QString type = window ? window->typeName() : QString();
+    if (type == qwxComboBox::typeId())
+        connectCommand(comboSignal, "1onEvent()", name, std::move(handler), {type}, textValue);
+    else if (type == qwxSpinCtrl::typeId())
+        connectCommand("2valueModified()", "1onEvent()", name, std::move(handler), {type}, textValue);
+    else
+        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {qwxTextCtrl::typeId()}, textValue);
+}
+
+void QmlChildList::connectToChoiceEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
+{
+    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {qwxChoice::typeId()}, choiceSelection);
+}
+
+void QmlChildList::connectToComboEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
+{
+    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {qwxComboBox::typeId()}, comboValue);
 }
 
 void QmlChildList::connectToKeyPressedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler)

@@ -6,11 +6,15 @@
 #include <dlgbridge/controls/qwxbitmapbutton.h>
 #include <dlgbridge/controls/qwxbutton.h>
 #include <dlgbridge/controls/qwxcheckbox.h>
+#include <dlgbridge/controls/qwxchoice.h>
+#include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
 #include <dlgbridge/controls/qwxradiobutton.h>
+#include <dlgbridge/controls/qwxsearchctrl.h>
 #include <dlgbridge/controls/qwxspinctrl.h>
 #include <dlgbridge/controls/qwxstaticbitmap.h>
 #include <dlgbridge/controls/qwxstatictext.h>
+#include <dlgbridge/controls/qwxtextctrl.h>
 #include <dlgbridge/controls/qwxtogglebutton.h>
 #include <dlgbridge/hosting/qwxpanel.h>
 
@@ -42,10 +46,19 @@ std::unique_ptr<qwxWindow> make(QObject&, const OdString& name, qwxWindow& host)
     return std::make_unique<Wrapper>(name, host);
 }
 
+// An editable combo is a combo box, any other a choice.
+std::unique_ptr<qwxWindow> makeCombo(QObject& item, const OdString& name, qwxWindow& host)
+{
+    if (item.property("editable").toBool())
+        return std::make_unique<qwxComboBox>(name, host);
+    return std::make_unique<qwxChoice>(name, host);
+}
+
 // Tested in order, each type by exact comparison.
 const std::vector<TableRow>& wrapperTable()
 {
     static const std::vector<TableRow> rows{
+        {{"TextField", "ScrollableTextArea", "TextArea"}, &make<qwxTextCtrl>},
         {{"CheckBox"}, &make<qwxCheckBox>},
         {{"Button", "ButtonOutline", "RoundButton", "IconButton", "GhostButton"}, &make<qwxButton>},
         {{"Label"}, &make<qwxStaticText>},
@@ -53,8 +66,10 @@ const std::vector<TableRow>& wrapperTable()
         {{"RadioButton"}, &make<qwxRadioButton>},
         {{"SpinBox"}, &make<qwxSpinCtrl>},
         {{"Image", "ImageAV"}, &make<qwxStaticBitmap>},
+        {{"SearchField"}, &make<qwxSearchCtrl>},
         {{"ImageButton"}, &make<qwxBitmapButton>},
         {{"Panel"}, &make<qwxPanel>},
+        {{"ComboBox"}, &makeCombo},
         {{"ProgressBar"}, &make<qwxGauge>},
         {{"Pane"}, &make<qwxPanel>},
     };
