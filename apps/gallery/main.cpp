@@ -6,6 +6,8 @@
 
 #include <quickhost/quickhost.h>
 
+#include <qut/qtconversions.h>
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLoggingCategory>
@@ -68,6 +70,8 @@ int main(int argc, char** argv)
     out << "Dialog code saw:\n";
     for (const QString& line : dialog.seen)
         out << "  " << line << '\n';
+    out << "Title: " << qut::toQt(dialog.title) << ", plotter: " << qut::toQt(dialog.plotterPath)
+        << ", paper: " << qut::toQt(dialog.paper) << '\n';
     out << "Copies: " << dialog.copies << ", layout checked: " << (dialog.checked ? "yes" : "no") << '\n';
     out << "ShowModal returned " << code << (code == wxIdOk ? " (wxID_OK)" : "") << '\n';
     if (scripted && script.screenshotSaved())

@@ -1,9 +1,13 @@
 #include "sampledialog.h"
 
 #include <dlgbridge/controls/qwxcheckbox.h>
+#include <dlgbridge/controls/qwxchoice.h>
+#include <dlgbridge/controls/qwxclientdata.h>
+#include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
 #include <dlgbridge/controls/qwxspinctrl.h>
 #include <dlgbridge/controls/qwxstatictext.h>
+#include <dlgbridge/controls/qwxtextctrl.h>
 #include <dlgbridge/controls/qwxtimer.h>
 #include <dlgbridge/controls/qwxtogglebutton.h>
 #include <dlgbridge/core/qmlchildlist.h>
@@ -40,6 +44,16 @@ void SampleDialog::doEventTableInit()
     children->connectToToggleButtonEvent("style", [this](qwxCommandEvent&) {
         seen.append(QStringLiteral("plot style %1").arg(control<qwxToggleButton>("style")->GetActiveChoice()));
     });
+    children->connectToTextEvent("plotTitle", [this](qwxCommandEvent& event) {
+        seen.append(QStringLiteral("title \"%1\"").arg(qut::toQt(event.GetString())));
+    });
+    children->connectToChoiceEvent("plotter", [this](qwxCommandEvent& event) {
+        const auto* path = dynamic_cast<qwxStringClientData*>(event.GetClientObject());
+        seen.append(QStringLiteral("plotter %1 at %2").arg(event.GetSelection()).arg(path ? qut::toQt(path->GetData()) : QString()));
+    });
+    children->connectToTextEvent("paper", [this](qwxCommandEvent& event) {
+        seen.append(QStringLiteral("paper \"%1\"").arg(qut::toQt(event.GetString())));
+    });
     children->connectToDlgResult(wxIdApply, [this](qwxCommandEvent&) { seen.append(QStringLiteral("applied")); });
     children->connectToTimerEvent(*this, progressTimerId, [this](qwxTimerEvent& event) { onProgress(event); });
 }
@@ -47,6 +61,11 @@ void SampleDialog::doEventTableInit()
 void SampleDialog::onCreateDialog(qwxInitDialogEvent&)
 {
     control<qwxGauge>("progress")->SetRange(100);
+    qwxChoice* plotter = control<qwxChoice>("plotter");
+    plotter->Append("Office plotter", new qwxStringClientData("//plotserver/office"));
+    plotter->Append("Large format", new qwxStringClientData("//plotserver/a0"));
+    plotter->Append("PDF file", new qwxStringClientData("pdf:"));
+    plotter->SetSelection(0);
     control<qwxStaticText>("status")->SetLabel(wxString("Choose the options, then preview"));
 }
 
@@ -71,6 +90,11 @@ void SampleDialog::onProgress(qwxTimerEvent&)
 bool SampleDialog::beforeOk()
 {
     copies = control<qwxSpinCtrl>("copies")->GetValue();
+    title = control<qwxTextCtrl>("plotTitle")->GetValue();
+    qwxChoice* plotter = control<qwxChoice>("plotter");
+    if (const auto* path = dynamic_cast<qwxStringClientData*>(plotter->GetClientObject(plotter->GetSelection())))
+        plotterPath = path->GetData();
+    paper = control<qwxComboBox>("paper")->GetValue();
     checked = control<qwxCheckBox>("agree")->GetValue();
     if (checked)
         return true;

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <wx/string.h>
+
 #include <memory>
 
 namespace dbr {
@@ -23,6 +25,9 @@ public:
     // Read from the controls when the user confirms.
     int copies = 0;
     bool checked = false;
+    wxString title;
+    wxString plotterPath;
+    wxString paper;
 
     void doEventTableInit() override;
     bool beforeOk() override;

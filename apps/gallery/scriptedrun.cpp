@@ -24,6 +24,12 @@ ScriptedRun::ScriptedRun(SampleDialog& dialog, QString screenshotPath)
         [this] { click("preview"); },
         [this] { click("wxID_OK"); },
         [this] { click("agree"); },
+        [this] { invoke("plotTitle", "insert", Q_ARG(int, 0), Q_ARG(QString, QStringLiteral("Ground floor"))); },
+        [this] {
+            setOn("plotter", "currentIndex", 1);
+            invoke("plotter", "activated", Q_ARG(int, 1));
+        },
+        [this] { setOn("paper", "editText", QStringLiteral("A2")); },
         [this] { setOn("style", "currentIndex", 1); },
         [this] { setOn("copies", "value", 3); },
         [this] { click("wxID_APPLY"); },
@@ -65,6 +71,12 @@ void ScriptedRun::click(const char* name)
 void ScriptedRun::setOn(const char* name, const char* property, const QVariant& value)
 {
     m_dialog.root()->findChild<QObject*>(QLatin1String(name))->setProperty(property, value);
+}
+
+template<typename... Arguments>
+void ScriptedRun::invoke(const char* name, const char* method, Arguments... arguments)
+{
+    QMetaObject::invokeMethod(m_dialog.root()->findChild<QObject*>(QLatin1String(name)), method, arguments...);
 }
 
 void ScriptedRun::saveScreenshot()

@@ -12,7 +12,8 @@ class QQuickItemGrabResult;
 class SampleDialog;
 
 // Plays a user through the sample dialog's real QML items while it runs
-// modally: preview, a refused OK, a check, more copies, a screenshot, OK.
+// modally: preview, a refused OK, a check, a title, a plotter, a paper size,
+// more copies, Apply, a screenshot, OK.
 class ScriptedRun : public QObject
 {
     Q_OBJECT
@@ -28,6 +29,8 @@ private:
     void next();
     void click(const char* name);
     void setOn(const char* name, const char* property, const QVariant& value);
+    template<typename... Arguments>
+    void invoke(const char* name, const char* method, Arguments... arguments);
     void saveScreenshot();
 
     SampleDialog& m_dialog;

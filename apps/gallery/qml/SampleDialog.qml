@@ -7,7 +7,7 @@ import Arvela.Components 1.0
 DialogAV {
     title: "Plot drawing"
     width: 460
-    height: 330
+    height: 450
     showApply: true
 
     ColumnLayout {
@@ -23,6 +23,12 @@ DialogAV {
 
             GridLayout {
                 columns: 2
+                Label { text: "Title" }
+                TextField { objectName: "plotTitle"; Layout.fillWidth: true; placeholderText: "Title block text" }
+                Label { text: "Plotter" }
+                ComboBox { objectName: "plotter"; Layout.fillWidth: true }
+                Label { text: "Paper" }
+                ComboBox { objectName: "paper"; editable: true; model: ["A4", "A3", "Letter"] }
                 Label { text: "Copies" }
                 SpinBox { objectName: "copies"; from: 1; to: 99; value: 1 }
                 Label { text: "Plot style" }
