@@ -57,9 +57,13 @@ private:
     QQuickItem* m_item;
 };
 
+// The application must exist before its first dialog; without one the
+// dialog still stands, with no services to hand down.
 QtControlModels applicationModels()
 {
-    return {oa::OaApp::s_app->guiController(), oa::OaApp::s_app->dialogFactory()};
+    const oa::OaApp* application = oa::OaApp::s_app;
+    return application ? QtControlModels{application->guiController(), application->dialogFactory()}
+                       : QtControlModels{};
 }
 
 } // namespace
