@@ -1,0 +1,7 @@
+#include "OaApp.h"
+
+namespace oa {
+
+OaApp* OaApp::s_app = nullptr;
+
+} // namespace oa
