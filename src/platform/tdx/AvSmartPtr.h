@@ -1,5 +1,6 @@
 #pragma once
 
+#include <type_traits>
 #include <utility>
 
 // Stand-in for the application's smart pointer to runtime objects: it holds
@@ -14,7 +15,7 @@ public:
         : m_object(object)
     {
         if (m_object)
-            m_object->addRef();
+            counted()->addRef();
     }
     AvSmartPtr(const AvSmartPtr& other)
         : AvSmartPtr(other.m_object)
@@ -32,7 +33,7 @@ public:
     ~AvSmartPtr()
     {
         if (m_object)
-            m_object->release();
+            counted()->release();
     }
 
     T* get() const { return m_object; }
@@ -41,5 +42,9 @@ public:
     explicit operator bool() const { return m_object != nullptr; }
 
 private:
+    // The count is no part of the object's constness, so a pointer to a const
+    // object still holds a reference.
+    std::remove_const_t<T>* counted() const { return const_cast<std::remove_const_t<T>*>(m_object); }
+
     T* m_object = nullptr;
 };
