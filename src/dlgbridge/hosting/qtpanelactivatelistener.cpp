@@ -1,0 +1,11 @@
+#include "qtpanelactivatelistener.h"
+
+namespace dbr {
+
+QtPanelActivateListener::~QtPanelActivateListener() = default;
+
+void QtPanelActivateListener::postLoaderActivation(bool)
+{
+}
+
+} // namespace dbr

@@ -1,0 +1,259 @@
+#include <dlgbridge/services/contextmenu.h>
+
+#include <QTest>
+
+#include <qut/qtconversions.h>
+
+#include <functional>
+#include <vector>
+
+using namespace dbr;
+
+namespace {
+
+using Entry = qut::TreeItem<qut::MenuData>;
+
+// Fills menus from a script, "i" for an item, "-" for a separator, "s(...)"
+// for a sub menu, and records the ids it is asked to run.
+class ScriptedBuilder : public dyncmd::MenuBuilder
+{
+public:
+    explicit ScriptedBuilder(const QString& script)
+        : m_script(script)
+    {
+    }
+
+    void executeCommand(int id) override { executed.push_back(id); }
+
+    void fillMenu(dyncmd::IDynamicMenu& menu) override
+    {
+        int pos = 0;
+        fill(menu, pos);
+    }
+
+    std::vector<int> executed;
+
+private:
+    void fill(dyncmd::IDynamicMenu& menu, int& pos)
+    {
+        while (pos < m_script.size() && m_script[pos] != ')') {
+            const QChar token = m_script[pos++];
+            if (token == 'i') {
+                menu.addMenuItem(OdString("item"), pos, OdString(), OdString(), true, false, false);
+            } else if (token == '-') {
+                menu.addMenuSeparator();
+            } else if (token == 's') {
+                std::unique_ptr<dyncmd::IDynamicMenu> sub = menu.createSubMenu();
+                fill(*sub, ++pos);
+                ++pos;
+                menu.appendSubMenu(OdString("sub"), std::move(sub), OdString());
+            }
+        }
+    }
+
+    QString m_script;
+};
+
+// Some other implementation, which a ContextMenu can't take entries from.
+class ForeignMenu : public dyncmd::IDynamicMenu
+{
+public:
+    explicit ForeignMenu(bool& destroyed)
+        : m_destroyed(destroyed)
+    {
+    }
+    ~ForeignMenu() override { m_destroyed = true; }
+    void addMenuItem(const OdString&, int, const OdString&, const OdString&, bool, bool, bool) override { ++m_count; }
+    void addMenuSeparator() override { ++m_count; }
+    std::size_t topLevelItemsCount() const override { return m_count; }
+    std::size_t totalItemsCount() const override { return m_count; }
+    std::unique_ptr<dyncmd::IDynamicMenu> createSubMenu() const override { return nullptr; }
+    void appendSubMenu(const OdString&, std::unique_ptr<dyncmd::IDynamicMenu>, const OdString&) override {}
+
+private:
+    bool& m_destroyed;
+    std::size_t m_count = 0;
+};
+
+// The script again: "i", "-" and "s(...)" from the entries' type words.
+QString scriptOf(const MenuItems& items, const Entry* parent = nullptr)
+{
+    QString script;
+    for (const auto& item : items) {
+        if (item->parent != parent)
+            return QStringLiteral("<bad parent>");
+        const QString& type = item->data.type;
+        if (type == "text")
+            script += 'i';
+        else if (type == "separator")
+            script += '-';
+        else if (type == "submenu")
+            script += "s(" + scriptOf(item->children, item.get()) + ')';
+        else
+            script += '?';
+    }
+    return script;
+}
+
+MenuItems takeItems(ContextMenu& menu)
+{
+    MenuItems items;
+    menu.menu(items);
+    return items;
+}
+
+} // namespace
+
+class tst_ContextMenu : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void addMenuItem_makesATextEntry_data();
+    void addMenuItem_makesATextEntry();
+    void actions_runTheirIdOnTheExecutor();
+    void actions_withoutExecutorDoNothing();
+    void appendSubMenu_movesTheEntriesUnderOne();
+    void appendSubMenu_ofAnotherKindAddsNothing();
+    void buildContextMenu_dropsOneTrailingSeparator_data();
+    void buildContextMenu_dropsOneTrailingSeparator();
+};
+
+void tst_ContextMenu::addMenuItem_makesATextEntry_data()
+{
+    QTest::addColumn<QString>("bitmapName");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("checkable");
+    QTest::addColumn<bool>("checked");
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<QList<int>>("flags");
+
+    QTest::newRow("resource name") << "BMP_16_OPEN" << true << true << true << "open.png" << QList<int>{0, 0, 0};
+    QTest::newRow("no bitmap") << "" << false << false << false << "" << QList<int>{1, 1, 1};
+    QTest::newRow("shorter than the prefix") << "BMP" << true << false << true << ".png" << QList<int>{0, 1, 0};
+    QTest::newRow("prefix not tested") << "XYZ_32_Save_As" << false << true << false << "save_as.png"
+                                       << QList<int>{1, 0, 1};
+}
+
+void tst_ContextMenu::addMenuItem_makesATextEntry()
+{
+    QFETCH(QString, bitmapName);
+    QFETCH(bool, enabled);
+    QFETCH(bool, checkable);
+    QFETCH(bool, checked);
+    QFETCH(QString, icon);
+    QFETCH(QList<int>, flags);
+
+    ContextMenu menu(nullptr);
+    menu.addMenuItem(qut::odFromQt("&Open"), 3, qut::odFromQt("Opens a drawing"), qut::odFromQt(bitmapName), enabled,
+                     checkable, checked);
+    const MenuItems items = takeItems(menu);
+    QCOMPARE(items.size(), 1u);
+    const qut::MenuData& data = items[0]->data;
+    QCOMPARE(data.text, QStringLiteral("&Open"));
+    QCOMPARE(data.type, QStringLiteral("text"));
+    QCOMPARE(data.description, QStringLiteral("Opens a drawing"));
+    QCOMPARE(data.icon, icon);
+    QCOMPARE(QList<int>({data.enabled, data.checkable, data.checked}), flags);
+    QVERIFY(items[0]->children.empty());
+}
+
+void tst_ContextMenu::actions_runTheirIdOnTheExecutor()
+{
+    ScriptedBuilder executor("");
+    MenuItems items;
+    {
+        ContextMenu menu(&executor);
+        menu.addMenuItem(OdString("a"), 7, OdString(), OdString(), true, false, false);
+        std::unique_ptr<dyncmd::IDynamicMenu> sub = menu.createSubMenu();
+        sub->addMenuItem(OdString("b"), 9, OdString(), OdString(), true, false, false);
+        menu.appendSubMenu(OdString("more"), std::move(sub), OdString());
+        menu.menu(items);
+    }
+    // The menu is gone; the executor is what the entries need.
+    items[1]->children[0]->data.action();
+    items[0]->data.action();
+    items[1]->data.action();
+    QCOMPARE(executor.executed, std::vector<int>({9, 7}));
+}
+
+void tst_ContextMenu::actions_withoutExecutorDoNothing()
+{
+    ContextMenu menu(nullptr);
+    menu.addMenuItem(OdString("a"), 7, OdString(), OdString(), true, false, false);
+    std::unique_ptr<dyncmd::IDynamicMenu> sub = menu.createSubMenu();
+    sub->addMenuItem(OdString("b"), 9, OdString(), OdString(), true, false, false);
+    menu.appendSubMenu(OdString("more"), std::move(sub), OdString());
+    const MenuItems items = takeItems(menu);
+    items[0]->data.action();
+    items[1]->children[0]->data.action();
+    QCOMPARE(scriptOf(items), QStringLiteral("is(i)"));
+}
+
+void tst_ContextMenu::appendSubMenu_movesTheEntriesUnderOne()
+{
+    ContextMenu menu(nullptr);
+    menu.addMenuItem(OdString("a"), 1, OdString(), OdString(), true, false, false);
+    std::unique_ptr<dyncmd::IDynamicMenu> sub = menu.createSubMenu();
+    sub->addMenuItem(OdString("b"), 2, OdString(), OdString(), true, false, false);
+    sub->addMenuSeparator();
+    std::unique_ptr<dyncmd::IDynamicMenu> inner = sub->createSubMenu();
+    inner->addMenuItem(OdString("c"), 3, OdString(), OdString(), true, false, false);
+    sub->appendSubMenu(OdString("inner"), std::move(inner), OdString());
+    menu.appendSubMenu(OdString("Draw"), std::move(sub), OdString("BMP_16_DRAW"));
+    menu.appendSubMenu(OdString("Empty"), menu.createSubMenu(), OdString());
+
+    QCOMPARE(menu.topLevelItemsCount(), 3u);
+    QCOMPARE(menu.totalItemsCount(), 7u);
+    const MenuItems items = takeItems(menu);
+    QCOMPARE(menu.topLevelItemsCount(), 0u);
+    QCOMPARE(scriptOf(items), QStringLiteral("is(i-s(i))s()"));
+    const qut::MenuData& draw = items[1]->data;
+    QCOMPARE(draw.text, QStringLiteral("Draw"));
+    // Sub menu icons are file names already.
+    QCOMPARE(draw.icon, QStringLiteral("BMP_16_DRAW"));
+    QCOMPARE(draw.description, QString());
+    QCOMPARE(QList<int>({draw.enabled, draw.checkable, draw.checked}), QList<int>({0, 1, 1}));
+}
+
+void tst_ContextMenu::appendSubMenu_ofAnotherKindAddsNothing()
+{
+    ContextMenu menu(nullptr);
+    bool destroyed = false;
+    auto foreign = std::make_unique<ForeignMenu>(destroyed);
+    foreign->addMenuItem(OdString("x"), 1, OdString(), OdString(), true, false, false);
+    menu.appendSubMenu(OdString("Foreign"), std::move(foreign), OdString());
+    QVERIFY(destroyed);
+    QCOMPARE(menu.totalItemsCount(), 0u);
+}
+
+void tst_ContextMenu::buildContextMenu_dropsOneTrailingSeparator_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("result");
+
+    QTest::newRow("two trailing") << "i--" << "i-";
+    QTest::newRow("one trailing") << "i-i-" << "i-i";
+    QTest::newRow("leading and doubled stay") << "-i--i" << "-i--i";
+    QTest::newRow("only a separator") << "-" << "";
+    QTest::newRow("empty") << "" << "";
+    QTest::newRow("inside a sub menu stays") << "is(i-)" << "is(i-)";
+    QTest::newRow("after a sub menu") << "s(i)-" << "s(i)";
+}
+
+void tst_ContextMenu::buildContextMenu_dropsOneTrailingSeparator()
+{
+    QFETCH(QString, script);
+    QFETCH(QString, result);
+
+    ScriptedBuilder builder(script);
+    const MenuItems items = buildContextMenu(&builder, {});
+    QCOMPARE(scriptOf(items), result);
+    if (!items.empty() && items[0]->data.type == "text") {
+        items[0]->data.action();
+        QCOMPARE(builder.executed, std::vector<int>{1});
+    }
+}
+
+QTEST_MAIN(tst_ContextMenu)
+#include "tst_contextmenu.moc"
