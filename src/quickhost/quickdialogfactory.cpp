@@ -17,11 +17,6 @@ namespace {
 
 constexpr int wxCancelCode = 16;
 
-QString toQt(const OdString& text)
-{
-    return qut::toQt(text);
-}
-
 wxString toWx(const OdString& text)
 {
     return wxString(text.c_str());
@@ -127,26 +122,23 @@ void QuickDialogFactory::unsetMessageBoxFaker()
 }
 
 std::pair<int, bool> QuickDialogFactory::showMessage(OdString title, OdString message, OdString extraText,
-                                                     EMessageStyle style,
-                                                     const std::vector<MessageButtonInfo>& buttons,
+                                                     EMessageStyle style, const std::vector<MessageButtonInfo>& buttons,
                                                      wxWindow* parent) const
 {
     if (d->faker)
         return {d->faker(toWx(title), toWx(message), style, parent), true};
 
-    // There are no wx windows here, so the parent places nothing.
     const std::vector<MessageButtonInfo> shown = buttons.empty() ? buttonsFromButtonStyle(Ok) : buttons;
     QVariantList buttonList;
     for (const MessageButtonInfo& button : shown)
-        buttonList.append(QVariantMap{{QStringLiteral("label"), toQt(button.label)},
-                                      {QStringLiteral("code"), button.code}});
-    const QVariantMap properties{
-        {QStringLiteral("title"), toQt(title)},
-        {QStringLiteral("message"), toQt(message)},
-        {QStringLiteral("details"), toQt(extraText)},
-        {QStringLiteral("messageStyle"), int(style)},
-        {QStringLiteral("buttons"), buttonList},
-    };
+        buttonList.append(
+            QVariantMap{{QStringLiteral("label"), qut::toQt(button.label)}, {QStringLiteral("code"), button.code}});
+    QVariantMap properties;
+    properties.insert(QStringLiteral("title"), qut::toQt(title));
+    properties.insert(QStringLiteral("message"), qut::toQt(message));
+    properties.insert(QStringLiteral("details"), qut::toQt(extraText));
+    properties.insert(QStringLiteral("messageStyle"), int(style));
+    properties.insert(QStringLiteral("buttons"), buttonList);
     MessageBoxRun run(d->engine, properties, closeCode(shown));
     return run.exec();
 }
@@ -158,8 +150,7 @@ std::optional<OdCmColor> QuickDialogFactory::chooseColor(wxWindow*, const OdCmCo
     return std::nullopt;
 }
 
-bool QuickDialogFactory::loadLineTypes(wxWindow*, OdDbDatabase*, OdArray<OdString>&, const wxString&,
-                                       const OdString&)
+bool QuickDialogFactory::loadLineTypes(wxWindow*, OdDbDatabase*, OdArray<OdString>&, const wxString&, const OdString&)
 {
     return false;
 }

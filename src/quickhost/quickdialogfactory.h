@@ -13,10 +13,12 @@ class QuickDialogFactoryPrivate;
 // Message boxes as the kit's MessageBox in a Qt Quick window of their own, each
 // with a modal loop that ends when a button is pressed. Closing the window, or
 // Escape, answers with the Cancel code (16) when the box has a Cancel button
-// and with the last button's code otherwise; the flag of the pair says whether
-// a button was pressed. extraText is shown under the message. An empty button
-// list gets the buttons of Ok, so that every box can be answered.
-// While a faker is set, it answers every box and nothing is shown.
+// and with the last button's code otherwise, as does a box that can't be made
+// (with a warning). The flag of the pair says whether a button was pressed.
+// extraText is shown under the message. An empty button list gets the buttons
+// of Ok, so that every box can be answered. The parent is not used: this host
+// has no wx windows to place a box over.
+// While a faker is set, it answers every box, as a pressed button, and nothing is shown.
 class QuickDialogFactory : public IDialogFactory
 {
 public:
@@ -29,8 +31,7 @@ public:
     void unsetMessageBoxFaker() override;
     void reserved4() override;
     std::pair<int, bool> showMessage(OdString title, OdString message, OdString extraText, EMessageStyle style,
-                                     const std::vector<MessageButtonInfo>& buttons,
-                                     wxWindow* parent) const override;
+                                     const std::vector<MessageButtonInfo>& buttons, wxWindow* parent) const override;
     void reserved6() override;
     std::optional<OdCmColor> chooseColor(wxWindow* parent, const OdCmColor& current,
                                          unsigned int options) const override;

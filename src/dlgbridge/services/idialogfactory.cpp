@@ -78,8 +78,7 @@ int IDialogFactory::showErrorMessage(OdString title, OdString message, wxWindow*
     return showMessage(std::move(title), std::move(message), Error, buttons, parent);
 }
 
-std::optional<wxColour> IDialogFactory::dlgColor(wxWindow* parent, const wxColour& current,
-                                                 unsigned int options) const
+std::optional<wxColour> IDialogFactory::dlgColor(wxWindow* parent, const wxColour& current, unsigned int options) const
 {
     OdCmColor color;
     color.setRGB(current.Red(), current.Green(), current.Blue());
@@ -96,14 +95,10 @@ std::vector<MessageButtonInfo> buttonsFromButtonStyle(MessageButtonStyle style)
     const auto yes = [] { return MessageButtonInfo{translated(wxS("&Yes")), 2}; };
     const auto no = [] { return MessageButtonInfo{translated(wxS("&No")), 8}; };
     switch (style) {
-    case OkCancel:
-        return {ok(), cancel()};
-    case YesNo:
-        return {yes(), no()};
-    case YesNoCancel:
-        return {yes(), no(), cancel()};
-    case Ok:
-        break;
+    case OkCancel: return {ok(), cancel()};
+    case YesNo: return {yes(), no()};
+    case YesNoCancel: return {yes(), no(), cancel()};
+    case Ok: break;
     }
     return {ok()};
 }
@@ -123,8 +118,8 @@ void showMessageDialog(const wxString& message)
 wxString qwxGetTextFromUser(const wxString& message, const wxString& caption)
 {
     qDebug("qwxGetTextFromUser: needs qml implementation");
-    const QString text = QInputDialog::getText(nullptr, qut::toQt(caption), qut::toQt(message), QLineEdit::Normal,
-                                               QString(), nullptr);
+    const QString text =
+        QInputDialog::getText(nullptr, qut::toQt(caption), qut::toQt(message), QLineEdit::Normal, QString(), nullptr);
     return qut::wxFromQt(text);
 }
 

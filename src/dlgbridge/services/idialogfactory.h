@@ -65,9 +65,8 @@ public:
     virtual void reserved4() = 0;
     // Blocks until the user answers; returns the pressed button's code and a
     // flag whose meaning, like that of extraText, is the implementation's.
-    virtual std::pair<int, bool> showMessage(OdString title, OdString message, OdString extraText,
-                                             EMessageStyle style, const std::vector<MessageButtonInfo>& buttons,
-                                             wxWindow* parent) const = 0;
+    virtual std::pair<int, bool> showMessage(OdString title, OdString message, OdString extraText, EMessageStyle style,
+                                             const std::vector<MessageButtonInfo>& buttons, wxWindow* parent) const = 0;
     virtual void reserved6() = 0;
     // No value means the user cancelled.
     virtual std::optional<OdCmColor> chooseColor(wxWindow* parent, const OdCmColor& current,
@@ -95,8 +94,8 @@ public:
     virtual void reserved28() = 0;
     // The modal dialog that loads line types into the database; this library
     // passes both strings empty.
-    virtual bool loadLineTypes(wxWindow* parent, OdDbDatabase* database, OdArray<OdString>& names,
-                               const wxString&, const OdString&) = 0;
+    virtual bool loadLineTypes(wxWindow* parent, OdDbDatabase* database, OdArray<OdString>& names, const wxString&,
+                               const OdString&) = 0;
     virtual void reserved30() = 0;
     virtual void reserved31() = 0;
     virtual void reserved32() = 0;
