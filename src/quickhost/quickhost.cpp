@@ -4,7 +4,8 @@ namespace dbr::quickhost {
 
 QuickHost::QuickHost(const QStringList& importPaths)
     : m_guiController(m_engine)
-    , m_app(&m_guiController, nullptr)
+    , m_dialogFactory(m_engine)
+    , m_app(&m_guiController, &m_dialogFactory)
 {
     for (const QString& path : importPaths)
         m_engine.addImportPath(path);

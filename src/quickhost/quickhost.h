@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quickdialogfactory.h"
 #include "quickguicontroller.h"
 
 #include <QQmlEngine>
@@ -9,8 +10,8 @@
 namespace dbr::quickhost {
 
 // The reference application: one QML engine that reaches the component kit,
-// the GUI controller built on it, and the application object, installed as
-// oa::OaApp::s_app for the host's lifetime.
+// the GUI controller and the dialog factory built on it, and the application
+// object, installed as oa::OaApp::s_app for the host's lifetime.
 class QuickHost
 {
 public:
@@ -19,12 +20,14 @@ public:
 
     QQmlEngine& engine() { return m_engine; }
     QuickGuiController& guiController() { return m_guiController; }
+    QuickDialogFactory& dialogFactory() { return m_dialogFactory; }
 
 private:
     Q_DISABLE_COPY(QuickHost)
 
     QQmlEngine m_engine;
     QuickGuiController m_guiController;
+    QuickDialogFactory m_dialogFactory;
     oa::OaApp m_app;
 };
 

@@ -1,0 +1,209 @@
+#include "quickdialogfactory.h"
+
+#include <QDebug>
+#include <QEventLoop>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <qut/qtconversions.h>
+
+#include <algorithm>
+
+namespace dbr::quickhost {
+
+namespace {
+
+constexpr int wxCancelCode = 16;
+
+wxString toWx(const OdString& text)
+{
+    return wxString(text.c_str());
+}
+
+// What a box answers when it is closed without a button.
+int closeCode(const std::vector<MessageButtonInfo>& buttons)
+{
+    const bool hasCancel = std::any_of(buttons.begin(), buttons.end(),
+                                       [](const MessageButtonInfo& button) { return button.code == wxCancelCode; });
+    return hasCancel ? wxCancelCode : buttons.back().code;
+}
+
+// One message box on screen and the loop that waits for its answer.
+class MessageBoxRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    MessageBoxRun(QQmlEngine& engine, const QVariantMap& properties, int closeCode)
+        : m_closeCode(closeCode)
+        , m_answer(closeCode)
+    {
+        QQmlComponent component(&engine);
+        component.setData("import Arvela.Components 1.0\nMessageBox {}\n", QUrl());
+        m_item.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
+        if (!m_item) {
+            qWarning().noquote() << "The message box can't be shown:" << component.errorString();
+            return;
+        }
+        connect(m_item.get(), SIGNAL(answered(int)), this, SLOT(onAnswered(int)));
+        connect(m_item.get(), SIGNAL(dismissed()), this, SLOT(onDismissed()));
+        // By name: the signal's argument type is private to Qt Quick.
+        connect(&m_window, SIGNAL(closing(QQuickCloseEvent*)), this, SLOT(onDismissed()));
+        m_item->setParentItem(m_window.contentItem());
+        m_item->setSize(QSizeF(m_item->implicitWidth(), m_item->implicitHeight()));
+        m_window.resize(m_item->size().toSize());
+        m_window.setTitle(properties.value(QStringLiteral("title")).toString());
+        m_window.setModality(Qt::ApplicationModal);
+    }
+
+    std::pair<int, bool> exec()
+    {
+        if (!m_item)
+            return {m_answer, false};
+        m_window.show();
+        m_item->forceActiveFocus();
+        m_loop.exec();
+        m_window.hide();
+        return {m_answer, m_pressed};
+    }
+
+private Q_SLOTS:
+    void onAnswered(int code) { finish(code, true); }
+    void onDismissed() { finish(m_closeCode, false); }
+
+private:
+    void finish(int code, bool pressed)
+    {
+        if (!m_loop.isRunning())
+            return;
+        m_answer = code;
+        m_pressed = pressed;
+        m_loop.exit();
+    }
+
+    const int m_closeCode;
+    int m_answer;
+    bool m_pressed = false;
+    QEventLoop m_loop;
+    QQuickWindow m_window;
+    // Declared after the window, so it leaves the scene before the window goes.
+    std::unique_ptr<QQuickItem> m_item;
+};
+
+} // namespace
+
+class QuickDialogFactoryPrivate
+{
+public:
+    explicit QuickDialogFactoryPrivate(QQmlEngine& qmlEngine)
+        : engine(qmlEngine)
+    {}
+
+    QQmlEngine& engine;
+    MessageBoxFaker faker;
+};
+
+QuickDialogFactory::QuickDialogFactory(QQmlEngine& engine)
+    : d(std::make_unique<QuickDialogFactoryPrivate>(engine))
+{}
+
+QuickDialogFactory::~QuickDialogFactory() = default;
+
+void QuickDialogFactory::setupMessageBoxFaker(MessageBoxFaker faker)
+{
+    d->faker = std::move(faker);
+}
+
+void QuickDialogFactory::unsetMessageBoxFaker()
+{
+    d->faker = nullptr;
+}
+
+std::pair<int, bool> QuickDialogFactory::showMessage(OdString title, OdString message, OdString extraText,
+                                                     EMessageStyle style, const std::vector<MessageButtonInfo>& buttons,
+                                                     wxWindow* parent) const
+{
+    if (d->faker)
+        return {d->faker(toWx(title), toWx(message), style, parent), true};
+
+    const std::vector<MessageButtonInfo> shown = buttons.empty() ? buttonsFromButtonStyle(Ok) : buttons;
+    QVariantList buttonList;
+    for (const MessageButtonInfo& button : shown)
+        buttonList.append(
+            QVariantMap{{QStringLiteral("label"), qut::toQt(button.label)}, {QStringLiteral("code"), button.code}});
+    QVariantMap properties;
+    properties.insert(QStringLiteral("title"), qut::toQt(title));
+    properties.insert(QStringLiteral("message"), qut::toQt(message));
+    properties.insert(QStringLiteral("details"), qut::toQt(extraText));
+    properties.insert(QStringLiteral("messageStyle"), int(style));
+    properties.insert(QStringLiteral("buttons"), buttonList);
+    MessageBoxRun run(d->engine, properties, closeCode(shown));
+    return run.exec();
+}
+
+// The colour and line type dialogs come with the CAD value models; until then
+// the user "cancels" both.
+std::optional<OdCmColor> QuickDialogFactory::chooseColor(wxWindow*, const OdCmColor&, unsigned int) const
+{
+    return std::nullopt;
+}
+
+bool QuickDialogFactory::loadLineTypes(wxWindow*, OdDbDatabase*, OdArray<OdString>&, const wxString&, const OdString&)
+{
+    return false;
+}
+
+void QuickDialogFactory::reserved4() {}
+void QuickDialogFactory::reserved6() {}
+void QuickDialogFactory::reserved8() {}
+void QuickDialogFactory::reserved9() {}
+void QuickDialogFactory::reserved10() {}
+void QuickDialogFactory::reserved11() {}
+void QuickDialogFactory::reserved12() {}
+void QuickDialogFactory::reserved13() {}
+void QuickDialogFactory::reserved14() {}
+void QuickDialogFactory::reserved15() {}
+void QuickDialogFactory::reserved16() {}
+void QuickDialogFactory::reserved17() {}
+void QuickDialogFactory::reserved18() {}
+void QuickDialogFactory::reserved19() {}
+void QuickDialogFactory::reserved20() {}
+void QuickDialogFactory::reserved21() {}
+void QuickDialogFactory::reserved22() {}
+void QuickDialogFactory::reserved23() {}
+void QuickDialogFactory::reserved24() {}
+void QuickDialogFactory::reserved25() {}
+void QuickDialogFactory::reserved26() {}
+void QuickDialogFactory::reserved27() {}
+void QuickDialogFactory::reserved28() {}
+void QuickDialogFactory::reserved30() {}
+void QuickDialogFactory::reserved31() {}
+void QuickDialogFactory::reserved32() {}
+void QuickDialogFactory::reserved33() {}
+void QuickDialogFactory::reserved34() {}
+void QuickDialogFactory::reserved35() {}
+void QuickDialogFactory::reserved36() {}
+void QuickDialogFactory::reserved37() {}
+void QuickDialogFactory::reserved38() {}
+void QuickDialogFactory::reserved39() {}
+void QuickDialogFactory::reserved40() {}
+void QuickDialogFactory::reserved41() {}
+void QuickDialogFactory::reserved42() {}
+void QuickDialogFactory::reserved43() {}
+void QuickDialogFactory::reserved44() {}
+void QuickDialogFactory::reserved45() {}
+void QuickDialogFactory::reserved46() {}
+void QuickDialogFactory::reserved47() {}
+void QuickDialogFactory::reserved48() {}
+void QuickDialogFactory::reserved49() {}
+void QuickDialogFactory::reserved50() {}
+void QuickDialogFactory::reserved51() {}
+void QuickDialogFactory::reserved52() {}
+void QuickDialogFactory::reserved53() {}
+void QuickDialogFactory::reserved54() {}
+
+} // namespace dbr::quickhost
+
+#include "quickdialogfactory.moc"

@@ -1,0 +1,431 @@
+#include <support/itemwindow.h>
+#include <support/paths.h>
+
+#include <dlgbridge/services/idialogfactory.h>
+
+#include <quickhost/quickhost.h>
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+#include <QTimer>
+
+#include <wx/translation.h>
+
+#include <oa/OaApp.h>
+#include <qut/qtconversions.h>
+
+#include <cstdint>
+#include <memory>
+
+using namespace dbr;
+using namespace dbr::test;
+
+namespace {
+
+QString describe(const std::vector<MessageButtonInfo>& buttons)
+{
+    QStringList parts;
+    for (const MessageButtonInfo& button : buttons)
+        parts.append(QStringLiteral("%1 %2").arg(qut::toQt(button.label)).arg(button.code));
+    return parts.join(QStringLiteral(", "));
+}
+
+// Records every box as "title|message|extraText|style|buttons" and answers with a fixed pair.
+class RecordingFactory : public quickhost::QuickDialogFactory
+{
+public:
+    using IDialogFactory::showMessage;
+    using QuickDialogFactory::QuickDialogFactory;
+
+    std::pair<int, bool> showMessage(OdString title, OdString message, OdString extraText, EMessageStyle style,
+                                     const std::vector<MessageButtonInfo>& buttons, wxWindow* parent) const override
+    {
+        boxes.append(QStringLiteral("%1|%2|%3|%4|%5")
+                         .arg(qut::toQt(title), qut::toQt(message), qut::toQt(extraText))
+                         .arg(int(style))
+                         .arg(describe(buttons)));
+        parents.append(parent);
+        return answer;
+    }
+
+    std::optional<OdCmColor> chooseColor(wxWindow*, const OdCmColor& current, unsigned int options) const override
+    {
+        askedColor = current;
+        askedOptions = options;
+        return chosen;
+    }
+
+    std::pair<int, bool> answer{8, true};
+    std::optional<OdCmColor> chosen;
+    mutable QStringList boxes;
+    mutable QList<wxWindow*> parents;
+    mutable OdCmColor askedColor;
+    mutable unsigned int askedOptions = 0;
+};
+
+// A German catalog in the .mo format, served from memory.
+class GermanLoader : public wxTranslationsLoader
+{
+public:
+    GermanLoader()
+    {
+        const std::vector<std::pair<std::string, std::string>> entries{
+            {"", "Content-Type: text/plain; charset=UTF-8\n"},
+            {"&OK", "&Gut"},
+            {"&Cancel", "&Abbrechen"},
+            {"Error", "Fehler"},
+        };
+        const auto put = [this](std::uint32_t value) { m_data.append(reinterpret_cast<const char*>(&value), 4); };
+        const auto count = std::uint32_t(entries.size());
+        const std::uint32_t tables = 28;
+        for (std::uint32_t value : {0x950412deu, 0u, count, tables, tables + 8 * count, 0u, 0u})
+            put(value);
+        std::string strings;
+        std::uint32_t stringsAt = tables + 16 * count;
+        for (bool translations : {false, true}) {
+            for (const auto& [original, translation] : entries) {
+                const std::string& text = translations ? translation : original;
+                put(std::uint32_t(text.size()));
+                put(stringsAt + std::uint32_t(strings.size()));
+                strings += text + '\0';
+            }
+        }
+        m_data += strings;
+    }
+
+    wxMsgCatalog* LoadCatalog(const wxString& domain, const wxString& lang) override
+    {
+        if (lang != wxS("de"))
+            return nullptr;
+        return wxMsgCatalog::CreateFromData(wxScopedCharBuffer::CreateNonOwned(m_data.data(), m_data.size()), domain);
+    }
+
+    wxArrayString GetAvailableTranslations(const wxString&) const override
+    {
+        wxArrayString languages;
+        languages.Add(wxS("de"));
+        return languages;
+    }
+
+private:
+    std::string m_data;
+};
+
+using MessageButtons = std::vector<MessageButtonInfo>;
+using MessageCall = std::function<std::pair<int, bool>(const IDialogFactory&, wxWindow*)>;
+
+// The visible message box, if there is one.
+QQuickItem* shownMessageBox()
+{
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        auto* quickWindow = qobject_cast<QQuickWindow*>(window);
+        if (!quickWindow || !quickWindow->isVisible())
+            continue;
+        for (QQuickItem* item : quickWindow->contentItem()->childItems())
+            if (item->objectName() == QLatin1String("MessageBox"))
+                return item;
+    }
+    return nullptr;
+}
+
+QQuickItem* findItem(QQuickItem* root, const QString& name)
+{
+    for (QQuickItem* child : root->childItems()) {
+        if (child->objectName() == name)
+            return child;
+        if (QQuickItem* found = findItem(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+// Once the box is shown, notes "title|message|details|labels" into seen and
+// presses the button with the given index, or closes the window for -1.
+void answerWhenShown(QString& seen, int buttonIndex)
+{
+    QTimer::singleShot(0, [&seen, buttonIndex] {
+        QQuickItem* box = shownMessageBox();
+        if (!box || !QTest::qWaitForWindowExposed(box->window()))
+            return;
+        const auto text = [box](const QString& name) { return findItem(box, name)->property("text").toString(); };
+        QStringList labels;
+        for (int index = 0; findItem(box, QStringLiteral("messageButton%1").arg(index)); ++index)
+            labels.append(text(QStringLiteral("messageButton%1").arg(index)));
+        seen = QStringList{box->window()->title(), text(QStringLiteral("messageText")),
+                           text(QStringLiteral("detailsText")), labels.join(QLatin1Char(','))}
+                   .join(QLatin1Char('|'));
+        if (QQuickItem* button = findItem(box, QStringLiteral("messageButton%1").arg(buttonIndex)))
+            clickItem(button);
+        else
+            box->window()->close();
+    });
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(MessageButtons)
+Q_DECLARE_METATYPE(MessageCall)
+
+class tst_DialogFactory : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void buttonsFromButtonStyle_givesTheRowsOfTheStyle_data();
+    void buttonsFromButtonStyle_givesTheRowsOfTheStyle();
+    void labels_areTranslatedAtEveryCall();
+    void helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtraText_data();
+    void helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtraText();
+    void dlgColor_asksWithPlainRgbAndReturnsAnOpaqueColourOrNothing();
+    void errorAndMessageDialogs_reachTheApplicationsFactoryOnlyWhenThereIsOne();
+    void baseFaker_destroysTheFunctionWithoutCallingIt();
+    void quickMessageBox_answersWithThePressedButton_data();
+    void quickMessageBox_answersWithThePressedButton();
+    void quickFaker_answersEveryBoxWithoutShowingUntilUnset();
+    void getTextFromUser_asksInAModalInputDialog_data();
+    void getTextFromUser_asksInAModalInputDialog();
+
+private:
+    QQmlEngine m_engine;
+};
+
+void tst_DialogFactory::buttonsFromButtonStyle_givesTheRowsOfTheStyle_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QString>("buttons");
+
+    QTest::newRow("Ok") << 0 << "&OK 4";
+    QTest::newRow("OkCancel") << 1 << "&OK 4, &Cancel 16";
+    QTest::newRow("YesNo") << 2 << "&Yes 2, &No 8";
+    QTest::newRow("YesNoCancel") << 3 << "&Yes 2, &No 8, &Cancel 16";
+    QTest::newRow("7 is Ok") << 7 << "&OK 4";
+    QTest::newRow("-1 is Ok") << -1 << "&OK 4";
+}
+
+void tst_DialogFactory::buttonsFromButtonStyle_givesTheRowsOfTheStyle()
+{
+    QFETCH(int, style);
+    QFETCH(QString, buttons);
+
+    QCOMPARE(describe(buttonsFromButtonStyle(static_cast<MessageButtonStyle>(style))), buttons);
+}
+
+void tst_DialogFactory::labels_areTranslatedAtEveryCall()
+{
+    RecordingFactory factory(m_engine);
+    oa::OaApp app(nullptr, &factory);
+    oa::OaApp::s_app = &app;
+    QCOMPARE(describe(buttonsFromButtonStyle(OkCancel)), QStringLiteral("&OK 4, &Cancel 16"));
+
+    auto* translations = new wxTranslations;
+    translations->SetLoader(new GermanLoader);
+    translations->SetLanguage(wxS("de"));
+    QVERIFY(translations->AddCatalog(wxS("dlgbridge")));
+    wxTranslations::Set(translations);
+    const QString german = describe(buttonsFromButtonStyle(OkCancel));
+    showErrorDialog(wxS("Disk full"));
+    wxTranslations::Set(nullptr);
+
+    QCOMPARE(german, QStringLiteral("&Gut 4, &Abbrechen 16"));
+    QCOMPARE(factory.boxes, QStringList{"Fehler|Disk full||3|&Gut 4"});
+    QCOMPARE(describe(buttonsFromButtonStyle(OkCancel)), QStringLiteral("&OK 4, &Cancel 16"));
+}
+
+void tst_DialogFactory::helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtraText_data()
+{
+    QTest::addColumn<MessageCall>("call");
+    QTest::addColumn<bool>("passesParent");
+    QTest::addColumn<QString>("box");
+
+    const auto answered = [](int code) { return std::pair<int, bool>(code, true); };
+    QTest::newRow("info") << MessageCall([=](const IDialogFactory& factory, wxWindow* parent) {
+        return answered(factory.showInfoMessage("T", "M", parent, YesNo));
+    }) << true << "T|M||0|&Yes 2, &No 8";
+    QTest::newRow("warning") << MessageCall([=](const IDialogFactory& factory, wxWindow* parent) {
+        return answered(factory.showWarningMessage("T", "M", parent, OkCancel));
+    }) << true << "T|M||1|&OK 4, &Cancel 16";
+    QTest::newRow("error, defaults") << MessageCall([=](const IDialogFactory& factory, wxWindow*) {
+        return answered(factory.showErrorMessage("T", "M"));
+    }) << false << "T|M||3|&OK 4";
+    QTest::newRow("given buttons") << MessageCall([=](const IDialogFactory& factory, wxWindow* parent) {
+        return answered(factory.showMessage("T", "M", Warning, {{"&Retry", 32}, {"&Cancel", 16}}, parent));
+    }) << true << "T|M||1|&Retry 32, &Cancel 16";
+    QTest::newRow("button style") << MessageCall([=](const IDialogFactory& factory, wxWindow* parent) {
+        return answered(factory.showMessage("T", "M", Error, YesNoCancel, parent));
+    }) << true << "T|M||3|&Yes 2, &No 8, &Cancel 16";
+    QTest::newRow("extra text, whole pair") << MessageCall([](const IDialogFactory& factory, wxWindow* parent) {
+        return factory.showMessage("T", "M", "More", Info, OkCancel, parent);
+    }) << true << "T|M|More|0|&OK 4, &Cancel 16";
+}
+
+void tst_DialogFactory::helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtraText()
+{
+    QFETCH(MessageCall, call);
+    QFETCH(bool, passesParent);
+    QFETCH(QString, box);
+
+    RecordingFactory factory(m_engine);
+    factory.answer = {8, true};
+    int parentStandIn = 0;
+    auto* parent = reinterpret_cast<wxWindow*>(&parentStandIn);
+
+    QCOMPARE(call(factory, parent), (std::pair<int, bool>(8, true)));
+    QCOMPARE(factory.boxes, QStringList{box});
+    QCOMPARE(factory.parents, QList<wxWindow*>{passesParent ? parent : nullptr});
+}
+
+void tst_DialogFactory::dlgColor_asksWithPlainRgbAndReturnsAnOpaqueColourOrNothing()
+{
+    RecordingFactory factory(m_engine);
+    OdCmColor chosen;
+    chosen.setRGB(200, 100, 50);
+    factory.chosen = chosen;
+
+    const std::optional<wxColour> colour = factory.dlgColor(nullptr, wxColour(10, 20, 30, 128), 7);
+    QVERIFY(colour);
+    QCOMPARE(colour->GetRGBA(), wxColour(200, 100, 50, wxALPHA_OPAQUE).GetRGBA());
+    QCOMPARE(factory.askedColor.colorMethod(), OdCmColor::kByColor);
+    QCOMPARE((QList<int>{factory.askedColor.red(), factory.askedColor.green(), factory.askedColor.blue()}),
+             (QList<int>{10, 20, 30}));
+    QCOMPARE(factory.askedOptions, 7u);
+
+    factory.chosen.reset();
+    QVERIFY(!factory.dlgColor(nullptr, *wxRED, 0));
+}
+
+void tst_DialogFactory::errorAndMessageDialogs_reachTheApplicationsFactoryOnlyWhenThereIsOne()
+{
+    RecordingFactory factory(m_engine);
+    oa::OaApp::s_app = nullptr;
+    showErrorDialog(wxS("lost"));
+    showMessageDialog(wxS("lost"));
+
+    oa::OaApp app(nullptr, &factory);
+    oa::OaApp::s_app = &app;
+    showErrorDialog(wxS("Disk full"));
+    showMessageDialog(wxS("Saved"));
+
+    QCOMPARE(factory.boxes, (QStringList{"Error|Disk full||3|&OK 4", "Info|Saved||0|&OK 4"}));
+    QCOMPARE(factory.parents, (QList<wxWindow*>{nullptr, nullptr}));
+}
+
+void tst_DialogFactory::baseFaker_destroysTheFunctionWithoutCallingIt()
+{
+    RecordingFactory factory(m_engine);
+    auto token = std::make_shared<int>(0);
+    const std::weak_ptr<int> watch = token;
+    bool called = false;
+
+    factory.IDialogFactory::setupMessageBoxFaker(
+        [token = std::move(token), &called](const wxString&, const wxString&, int, wxWindow*) {
+            called = true;
+            return 2;
+        });
+
+    QVERIFY(watch.expired());
+    QCOMPARE(factory.showInfoMessage("T", "M"), 8);
+    QVERIFY(!called);
+}
+
+void tst_DialogFactory::quickMessageBox_answersWithThePressedButton_data()
+{
+    QTest::addColumn<MessageButtons>("buttons");
+    QTest::addColumn<QString>("extraText");
+    QTest::addColumn<int>("press");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<bool>("pressed");
+    QTest::addColumn<QString>("seen");
+
+    const MessageButtons cancelFirst{{"&Cancel", 16}, {"&Retry", 32}};
+    QTest::newRow("OK") << buttonsFromButtonStyle(OkCancel) << "" << 0 << 4 << true << "Title|Message||&OK,&Cancel";
+    QTest::newRow("Cancel") << buttonsFromButtonStyle(OkCancel) << "" << 1 << 16 << true
+                            << "Title|Message||&OK,&Cancel";
+    QTest::newRow("No, with details") << buttonsFromButtonStyle(YesNoCancel) << "Details" << 1 << 8 << true
+                                      << "Title|Message|Details|&Yes,&No,&Cancel";
+    QTest::newRow("given buttons") << cancelFirst << "" << 1 << 32 << true << "Title|Message||&Cancel,&Retry";
+    QTest::newRow("closed, Cancel's code") << cancelFirst << "" << -1 << 16 << false << "Title|Message||&Cancel,&Retry";
+    QTest::newRow("closed, last button's code")
+        << buttonsFromButtonStyle(YesNo) << "" << -1 << 8 << false << "Title|Message||&Yes,&No";
+    QTest::newRow("no buttons, OK") << MessageButtons() << "" << -1 << 4 << false << "Title|Message||&OK";
+}
+
+void tst_DialogFactory::quickMessageBox_answersWithThePressedButton()
+{
+    QFETCH(MessageButtons, buttons);
+    QFETCH(QString, extraText);
+    QFETCH(int, press);
+    QFETCH(int, code);
+    QFETCH(bool, pressed);
+    QFETCH(QString, seen);
+
+    quickhost::QuickHost host(QStringList{qmlImportDir()});
+    QString shown;
+    answerWhenShown(shown, press);
+    const std::pair<int, bool> answer = oa::OaApp::s_app->dialogFactory()->showMessage(
+        "Title", "Message", qut::odFromQt(extraText), Warning, buttons, nullptr);
+
+    QCOMPARE(shown, seen);
+    QCOMPARE(answer, (std::pair<int, bool>(code, pressed)));
+    QVERIFY(!shownMessageBox());
+}
+
+void tst_DialogFactory::quickFaker_answersEveryBoxWithoutShowingUntilUnset()
+{
+    quickhost::QuickHost host(QStringList{qmlImportDir()});
+    QStringList asked;
+    host.dialogFactory().setupMessageBoxFaker(
+        [&asked](const wxString& title, const wxString& message, int style, wxWindow*) {
+            asked.append(QStringLiteral("%1|%2|%3|%4")
+                             .arg(qut::toQt(title), qut::toQt(message))
+                             .arg(style)
+                             .arg(shownMessageBox() ? "shown" : "hidden"));
+            return 2;
+        });
+
+    showErrorDialog(wxS("Disk full"));
+    QCOMPARE(host.dialogFactory().showWarningMessage("Replace?", "It exists", nullptr, YesNo), 2);
+    QCOMPARE(asked, (QStringList{"Error|Disk full|3|hidden", "Replace?|It exists|1|hidden"}));
+
+    host.dialogFactory().unsetMessageBoxFaker();
+    QString shown;
+    answerWhenShown(shown, 0);
+    QCOMPARE(host.dialogFactory().showInfoMessage("Done", "Saved"), 4);
+    QCOMPARE(shown, QStringLiteral("Done|Saved||&OK"));
+    QCOMPARE(asked.size(), 2);
+}
+
+void tst_DialogFactory::getTextFromUser_asksInAModalInputDialog_data()
+{
+    QTest::addColumn<bool>("accept");
+    QTest::addColumn<QString>("result");
+
+    QTest::newRow("accepted") << true << "typed";
+    QTest::newRow("cancelled") << false << "";
+}
+
+void tst_DialogFactory::getTextFromUser_asksInAModalInputDialog()
+{
+    QFETCH(bool, accept);
+    QFETCH(QString, result);
+
+    QString seen;
+    QTimer::singleShot(0, [&seen, accept] {
+        auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        seen = dialog->windowTitle() + QLatin1Char('|') + dialog->labelText() + QLatin1Char('|') + dialog->textValue();
+        dialog->setTextValue(QStringLiteral("typed"));
+        accept ? dialog->accept() : dialog->reject();
+    });
+    QTest::ignoreMessage(QtDebugMsg, "qwxGetTextFromUser: needs qml implementation");
+
+    QCOMPARE(qut::toQt(qwxGetTextFromUser(wxS("Name:"), wxS("New layer"))), result);
+    QCOMPARE(seen, QStringLiteral("New layer|Name:|"));
+}
+
+QTEST_MAIN(tst_DialogFactory)
+#include "tst_dialogfactory.moc"
