@@ -77,8 +77,8 @@ void tst_Connections::click_reachesHandlersByNameIdAndWildcard()
                      "Connect 2clicked() (qwxButton) to wxID_CANCEL", "Connect 2clicked() (qwxButton) to wxID_OK"}));
 
     ItemWindow window(m_ui->host.root());
-    window.click(m_ui->item("wxID_OK"));
-    window.click(m_ui->item("outline"));
+    clickItem(m_ui->item("wxID_OK"));
+    clickItem(m_ui->item("outline"));
     emitSignal("picture", "clicked");
     QCOMPARE(heard, (QStringList{"id:wxID_OK", "any:wxID_OK", "name:outline", "any:outline", "any:picture"}));
 }
@@ -99,8 +99,8 @@ void tst_Connections::checkBox_eventCarriesTheStateAfterTheClick()
     QList<bool> states;
     list().connectToCheckBoxEvent("check", [&](qwxCommandEvent& event) { states.append(event.IsChecked()); });
     ItemWindow window(m_ui->host.root());
-    window.click(m_ui->item("check"));
-    window.click(m_ui->item("check"));
+    clickItem(m_ui->item("check"));
+    clickItem(m_ui->item("check"));
     QCOMPARE(states, (QList<bool>{true, false}));
     QCOMPARE(list().child<qwxCheckBox>("check")->GetValue(), false);
 }
@@ -125,7 +125,7 @@ void tst_Connections::valueEvents_carryTheSignalsValue()
     QVERIFY(QMetaObject::invokeMethod(pages, "currentChanged", Q_ARG(int, 2)));
     m_ui->item("mode")->setProperty("currentIndex", 1);
     ItemWindow window(m_ui->host.root());
-    window.click(m_ui->item("radio"));
+    clickItem(m_ui->item("radio"));
     QCOMPARE(selections, QList<int>{2});
     QCOMPARE(toggles, 1);
     QCOMPARE(radios, 1);

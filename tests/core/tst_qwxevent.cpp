@@ -5,67 +5,15 @@
 
 using namespace dbr;
 
-namespace {
-
-enum class Value { None, Bool, Int, String };
-
-qwxCommandEvent commandEvent(Value kind, qwxClientData* client)
-{
-    switch (kind) {
-    case Value::Bool: return qwxCommandEvent(nullptr, true);
-    case Value::Int: return qwxCommandEvent(nullptr, 3, client);
-    case Value::String: return qwxCommandEvent(nullptr, wxString("abc"), client);
-    case Value::None: break;
-    }
-    return qwxCommandEvent(nullptr);
-}
-
-} // namespace
-
-Q_DECLARE_METATYPE(Value)
-
 class tst_qwxEvent : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void commandEvent_answersOnlyFromItsOwnValue_data();
-    void commandEvent_answersOnlyFromItsOwnValue();
     void clientData_isThePointerOfAVoidClientDataOnly();
     void keyEvent_data();
     void keyEvent();
 };
-
-void tst_qwxEvent::commandEvent_answersOnlyFromItsOwnValue_data()
-{
-    QTest::addColumn<Value>("kind");
-    QTest::addColumn<int>("selection");
-    QTest::addColumn<bool>("checked");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("hasClient");
-
-    QTest::newRow("nothing") << Value::None << 0 << false << "" << false;
-    QTest::newRow("bool") << Value::Bool << 0 << true << "" << false;
-    QTest::newRow("int") << Value::Int << 3 << false << "" << true;
-    QTest::newRow("string") << Value::String << 0 << false << "abc" << true;
-}
-
-void tst_qwxEvent::commandEvent_answersOnlyFromItsOwnValue()
-{
-    QFETCH(Value, kind);
-    QFETCH(int, selection);
-    QFETCH(bool, checked);
-    QFETCH(QString, text);
-    QFETCH(bool, hasClient);
-
-    qwxStringClientData client("row");
-    qwxCommandEvent moved = commandEvent(kind, &client);
-    const qwxCommandEvent event = std::move(moved);
-    QCOMPARE(event.GetSelection(), selection);
-    QCOMPARE(event.IsChecked(), checked);
-    QCOMPARE(event.GetString(), wxString(text.toStdWString()));
-    QCOMPARE(event.GetClientObject(), hasClient ? &client : nullptr);
-}
 
 void tst_qwxEvent::clientData_isThePointerOfAVoidClientDataOnly()
 {

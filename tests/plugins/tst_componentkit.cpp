@@ -93,7 +93,7 @@ void tst_ComponentKit::toggleButton_aClickedSegmentBecomesCurrent()
     QVERIFY(changed.isValid());
     ItemWindow window(root);
     QCOMPARE(toggle->childItems().size(), 4); // three segments, then their repeater
-    window.click(toggle->childItems().at(2));
+    clickItem(toggle->childItems().at(2));
     QCOMPARE(toggle->property("currentIndex").toInt(), 2);
     QCOMPARE(changed.count(), 1);
 }

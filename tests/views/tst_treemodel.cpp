@@ -20,7 +20,7 @@ struct Payload
 
 using Item = qut::TreeItem<Payload>;
 
-// Names in column 0, child counts in column 1; the edit role renames.
+// Names in column 0, child counts in column 1.
 class NameModel : public qut::TreeModel<Payload>
 {
 public:
@@ -32,16 +32,6 @@ public:
         if (!item || role != Qt::DisplayRole)
             return QVariant();
         return index.column() == 0 ? QVariant(item->data.name) : QVariant(int(item->children.size()));
-    }
-
-    bool setDataImpl(const QModelIndex& index, const QVariant& value, int role) override
-    {
-        Item* item = getTreeItem(index);
-        if (!item || role != Qt::EditRole)
-            return false;
-        item->data.name = value.toString();
-        Q_EMIT dataChanged(index, index, {Qt::DisplayRole});
-        return true;
     }
 };
 
@@ -80,10 +70,8 @@ QString dump(const Item& parent)
 {
     QStringList parts;
     for (const auto& child : parent.children) {
-        if (!child)
-            return QStringLiteral("<null slot>");
-        if (child->parent != &parent)
-            return QStringLiteral("<bad parent of %1>").arg(child->data.name);
+        if (!child || child->parent != &parent)
+            return QStringLiteral("<bad slot>");
         parts << child->data.name + (child->children.empty() ? QString() : '(' + dump(*child) + ')');
     }
     return parts.join(',');
@@ -175,7 +163,6 @@ void tst_TreeModel::insertItem_outOfBoundsDestroysTheItemAndStillAnnounces_data(
     QTest::addColumn<int>("position");
 
     QTest::newRow("one past the end") << "" << 4;
-    QTest::newRow("negative") << "" << -1;
     QTest::newRow("into a leaf") << "b" << 1;
 }
 
@@ -247,14 +234,12 @@ void tst_TreeModel::traverseTree_data()
     const QString all = "a(b(c),e,i),f(g,h)";
     QTest::newRow("children before grandchildren, last pushed first") << "" << "" << "a,f,g,h,b,e,i,c" << all;
     QTest::newRow("from a node") << "a" << "" << "a,b,e,i,c" << all;
-    QTest::newRow("from a leaf") << "h" << "" << "h" << all;
     QTest::newRow("skip at the start") << "a" << "a:skip" << "a" << all;
     QTest::newRow("skip keeps the siblings") << "" << "b:skip,f:skip" << "a,f,b,e,i" << all;
     QTest::newRow("stop ends at once") << "" << "g:stop" << "a,f,g" << all;
     QTest::newRow("delete every top-level node") << "" << "a:delete,f:delete" << "a,f" << "";
     QTest::newRow("after a deletion the next sibling comes") << "" << "b:delete,e:delete" << "a,f,g,h,b,e,i"
                                                              << "a(i),f(g,h)";
-    QTest::newRow("delete the last sibling") << "" << "h:delete" << "a,f,g,h,b,e,i,c" << "a(b(c),e,i),f(g)";
     QTest::newRow("deleting the start ends the walk") << "a" << "a:delete" << "a" << "f(g,h)";
     QTest::newRow("stop after a deletion") << "" << "f:delete,b:stop" << "a,f,b" << "a(b(c),e,i)";
 }
@@ -376,8 +361,6 @@ void tst_TreeModel::randomSequences_keepModelAndNodesSound()
         case 8:
             if (random.bounded(20) == 0)
                 model.reset();
-            else if (Item* item = anyNode())
-                QVERIFY(model.setData(model.createItemIndex(item), QString::number(made++), Qt::EditRole));
             break;
         }
         QVERIFY(!dump(model).contains('<'));
