@@ -34,9 +34,7 @@ private Q_SLOTS:
     void walk_wrapsEachKitComponent_data();
     void walk_wrapsEachKitComponent();
     void walk_customTypeWinsOverTheTable();
-    void labels_writeAndReadText();
-    void checkAndRadio_shareTheCheckedState();
-    void numbersAndChoices_roundTrip();
+    void values_reachTheItemsPropertiesBothWays();
     void bitmaps_areWrittenAsImages();
     void gauge_keepsItsOwnRangeAndValue();
 
@@ -90,46 +88,29 @@ void tst_SimpleControls::walk_customTypeWinsOverTheTable()
     QCOMPARE(m_ui->host.list().FindWindow("outline")->typeName(), qwxButton::typeId());
 }
 
-void tst_SimpleControls::labels_writeAndReadText()
+// Each wrapper writes and reads the property its kit component has.
+void tst_SimpleControls::values_reachTheItemsPropertiesBothWays()
 {
     control<qwxButton>("wxID_OK").SetLabel(wxString::FromUTF8("Übernehmen"));
     QCOMPARE(item("wxID_OK")->property("text").toString(), QString::fromUtf8("Übernehmen"));
-
     auto& caption = control<qwxStaticText>("caption");
     QCOMPARE(caption.GetLabel(), wxString("Name"));
-    caption.SetLabel("Width:");
-    QCOMPARE(caption.GetLabel(), wxString("Width:"));
     caption.SetForegroundColour(wxColour(10, 20, 30));
     QCOMPARE(item("caption")->property("color").value<QColor>(), QColor(10, 20, 30));
-}
 
-void tst_SimpleControls::checkAndRadio_shareTheCheckedState()
-{
-    auto& check = control<qwxCheckBox>("check");
-    auto& radio = control<qwxRadioButton>("radio");
-    check.SetValue(true);
+    control<qwxCheckBox>("check").SetValue(true);
     QVERIFY(item("check")->property("checked").toBool());
     item("check")->setProperty("checked", false);
-    QVERIFY(!check.GetValue());
-    QVERIFY(!check.IsChecked());
-
-    radio.SetValue(true);
+    QVERIFY(!control<qwxCheckBox>("check").IsChecked());
+    control<qwxRadioButton>("radio").SetValue(true);
     QVERIFY(item("radio")->property("checked").toBool());
-    QVERIFY(radio.GetValue());
-}
 
-void tst_SimpleControls::numbersAndChoices_roundTrip()
-{
-    auto& count = control<qwxSpinCtrl>("count");
-    count.SetValue(42);
+    control<qwxSpinCtrl>("count").SetValue(42);
     QCOMPARE(item("count")->property("value").toInt(), 42);
     item("count")->setProperty("value", 17);
-    QCOMPARE(count.GetValue(), 17);
-
-    auto& mode = control<qwxToggleButton>("mode");
-    mode.SetActiveChoice(2);
+    QCOMPARE(control<qwxSpinCtrl>("count").GetValue(), 17);
+    control<qwxToggleButton>("mode").SetActiveChoice(2);
     QCOMPARE(item("mode")->property("currentIndex").toInt(), 2);
-    QCOMPARE(mode.GetActiveChoice(), 2);
 }
 
 void tst_SimpleControls::bitmaps_areWrittenAsImages()

@@ -1,4 +1,3 @@
-#include <dlgbridge/controls/qwxcheckbox.h>
 #include <dlgbridge/core/qmlchildlist.h>
 
 #include <QLoggingCategory>
@@ -44,7 +43,6 @@ private Q_SLOTS:
 
     void click_reachesHandlersByNameIdAndWildcard();
     void twoConnections_runInConnectionOrderUntilReset();
-    void checkBox_eventCarriesTheStateAfterTheClick();
     void valueEvents_carryTheSignalsValue();
     void plainEvents_nameTheirSource();
     void dialogResult_isHeardOnTheRoot();
@@ -92,17 +90,6 @@ void tst_Connections::twoConnections_runInConnectionOrderUntilReset()
     list().resetCallbacks();
     emitSignal("wxID_CANCEL", "clicked");
     QCOMPARE(heard, (QStringList{"first", "second"}));
-}
-
-void tst_Connections::checkBox_eventCarriesTheStateAfterTheClick()
-{
-    QList<bool> states;
-    list().connectToCheckBoxEvent("check", [&](qwxCommandEvent& event) { states.append(event.IsChecked()); });
-    ItemWindow window(m_ui->host.root());
-    clickItem(m_ui->item("check"));
-    clickItem(m_ui->item("check"));
-    QCOMPARE(states, (QList<bool>{true, false}));
-    QCOMPARE(list().child<qwxCheckBox>("check")->GetValue(), false);
 }
 
 void tst_Connections::valueEvents_carryTheSignalsValue()

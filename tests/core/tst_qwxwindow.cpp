@@ -154,10 +154,7 @@ void tst_qwxWindow::stateOperations_writeTheItemsProperties_data()
 
     QTest::newRow("Enable()") << Operation([](qwxWindow& w) { w.Enable(); }) << QByteArray("enabled") << true;
     QTest::newRow("Disable()") << Operation([](qwxWindow& w) { w.Disable(); }) << QByteArray("enabled") << false;
-    QTest::newRow("Enable(false)") << Operation([](qwxWindow& w) { w.Enable(false); }) << QByteArray("enabled")
-                                   << false;
     QTest::newRow("Show()") << Operation([](qwxWindow& w) { w.Show(); }) << QByteArray("visible") << true;
-    QTest::newRow("Show(false)") << Operation([](qwxWindow& w) { w.Show(false); }) << QByteArray("visible") << false;
     QTest::newRow("Hide()") << Operation([](qwxWindow& w) { w.Hide(); }) << QByteArray("visible") << false;
     QTest::newRow("SetFocus()") << Operation([](qwxWindow& w) { w.SetFocus(); }) << QByteArray("focus") << true;
 }
