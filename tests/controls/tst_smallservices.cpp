@@ -2,15 +2,18 @@
 #include <dlgbridge/controls/qwximagelist.h>
 #include <dlgbridge/controls/qwxsizer.h>
 #include <dlgbridge/controls/qwxtimer.h>
+#include <dlgbridge/core/ieventhandler.h>
 #include <dlgbridge/core/qmlchildlist.h>
+#include <dlgbridge/core/qwxevent.h>
 
-#include <QSignalSpy>
 #include <QTest>
+
+#include <functional>
 
 #include <wx/image.h>
 
-#include "support/qmlfixture.h"
 #include "support/testhost.h"
+#include "support/testvalidator.h"
 
 using namespace dbr;
 using namespace dbr::test;
@@ -24,23 +27,34 @@ wxBitmap filledBitmap(unsigned char red, int width = 2, int height = 2)
     return wxBitmap(image);
 }
 
-enum class Placeholder { Insert, GetItem, SetSizeHints, Layout, GetSize, GetSizer, DropSource, DoDragDrop };
-
-class FlaggingData : public qwxDataObject
+// Notes its own destruction, to show that a placeholder frees what it is given.
+template<typename Base>
+class Flagging : public Base
 {
 public:
-    explicit FlaggingData(bool& destroyed)
+    explicit Flagging(bool& destroyed)
         : m_destroyed(destroyed)
     {}
-    ~FlaggingData() override { m_destroyed = true; }
+    ~Flagging() override { m_destroyed = true; }
 
 private:
     bool& m_destroyed;
 };
 
+// What the placeholders are called on.
+struct Stubs
+{
+    TestHost host;
+    TestControl control{"first", host};
+    qwxSizer sizer;
+    qwxSizerItem item;
+    qwxTextDataObject text{"dragged"};
+};
+using Call = std::function<void(Stubs&)>;
+
 } // namespace
 
-Q_DECLARE_METATYPE(Placeholder)
+Q_DECLARE_METATYPE(Call)
 
 class tst_SmallServices : public QObject
 {
@@ -52,7 +66,6 @@ private Q_SLOTS:
     void imageList_indexesItsImages();
     void placeholders_logAndAnswerNeutrally_data();
     void placeholders_logAndAnswerNeutrally();
-    void dropTarget_deletesTheDataItIsGiven();
 };
 
 void tst_SmallServices::timer_ticksReachTheHandlersOfItsId()
@@ -69,8 +82,6 @@ void tst_SmallServices::timer_ticksReachTheHandlersOfItsId()
 
     qwxTimer seven(&owner, 7);
     qwxTimer eight(&list, 8);
-    QCOMPARE(seven.GetId(), 7);
-    QVERIFY(!seven.IsRunning());
     seven.Start(5);
     eight.Start(5);
     QVERIFY(seven.IsRunning());
@@ -78,7 +89,6 @@ void tst_SmallServices::timer_ticksReachTheHandlersOfItsId()
     seven.Stop();
     eight.Stop();
     QVERIFY(!seven.IsRunning());
-
     for (const auto& tick : heardBySeven)
         QCOMPARE(tick, qMakePair(7, static_cast<qwxWindow*>(&owner)));
     QVERIFY(heardByAll.contains(7));
@@ -95,8 +105,6 @@ void tst_SmallServices::timer_withoutListTicksGoNowhere()
 {
     QTest::ignoreMessage(QtCriticalMsg, "Invalid parent for qwx timer");
     qwxTimer timer(static_cast<qwxWindow*>(nullptr), 7);
-    QCOMPARE(timer.GetId(), 7);
-    QVERIFY(!timer.IsRunning());
     timer.Start(1);
     QVERIFY(timer.IsRunning());
     QTest::qWait(5);
@@ -108,7 +116,6 @@ void tst_SmallServices::imageList_indexesItsImages()
     QCOMPARE(list.Add(filledBitmap(10)), 0);
     QCOMPARE(list.Add(filledBitmap(20, 3, 1)), 1);
     QCOMPARE(list.Add(filledBitmap(30)), 2);
-
     QCOMPARE(list.getImage(1).size(), QSize(3, 1));
     QCOMPARE(qRed(list.getImage(2).pixel(1, 1)), 30);
     QVERIFY(list.getImage(-1).isNull());
@@ -121,52 +128,63 @@ void tst_SmallServices::imageList_indexesItsImages()
 
 void tst_SmallServices::placeholders_logAndAnswerNeutrally_data()
 {
-    QTest::addColumn<Placeholder>("placeholder");
-    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QStringList>("messages");
+    QTest::addColumn<Call>("call");
 
-    QTest::newRow("Insert") << Placeholder::Insert << "qwxSizer::Insert : stub";
-    QTest::newRow("GetItem") << Placeholder::GetItem << "qwxSizer::GetItem : stub";
-    QTest::newRow("SetSizeHints") << Placeholder::SetSizeHints << "qwxSizer::SetSizeHints : stub";
-    QTest::newRow("Layout") << Placeholder::Layout << "qwxSizer::Layout : stub";
-    QTest::newRow("GetSize names the sizer") << Placeholder::GetSize << "qwxSizer::GetSize : stub";
-    QTest::newRow("GetSizer") << Placeholder::GetSizer << "qwxSizer::GetSizer : stub";
-    QTest::newRow("drop source") << Placeholder::DropSource << "qwxDropSource::qwxDropSource: stub + ownership?";
-    QTest::newRow("DoDragDrop") << Placeholder::DoDragDrop << "qwxDropSource::DoDragDrop: stub";
+    const auto row = [](const char* name, const char* message, const Call& call, QtMsgType type = QtDebugMsg) {
+        QTest::newRow(name) << int(type) << QStringList{message} << call;
+    };
+    row("window GetSizer", "qwxWindow::GetSizer : stub", [](Stubs& s) { QVERIFY(!s.control.GetSizer()); });
+    row("GetContainingSizer", "qwxControl::GetContainingSizer : stub",
+        [](Stubs& s) { QVERIFY(!s.control.GetContainingSizer()); });
+    row("PushEventHandler frees the handler", "qwxWindow::PushEventHandler : stub", [](Stubs& s) {
+        bool destroyed = false;
+        s.host.PushEventHandler(new Flagging<IEventHandler>(destroyed));
+        QVERIFY(destroyed);
+    });
+    row("PopEventHandler", "PopEventHandler : stub", [](Stubs& s) { s.control.PopEventHandler(true); });
+    row("GetWindowStyle", "qwxWindow::GetWindowStyle : stub", [](Stubs& s) { QCOMPARE(s.control.GetWindowStyle(), 0L); });
+    row("SetWindowStyle", "qwxWindow::SetWindowStyle : stub", [](Stubs& s) { s.control.SetWindowStyle(0x40); });
+    row("ScreenToClient", "qwxWindow::ScreenToClient : stub",
+        [](Stubs& s) { QCOMPARE(s.control.ScreenToClient(wxPoint(5, 7)), wxPoint(0, 0)); });
+    row("Insert", "qwxSizer::Insert : stub", [](Stubs& s) { QCOMPARE(s.sizer.Insert(0, &s.host), nullptr); });
+    row("GetItem", "qwxSizer::GetItem : stub", [](Stubs& s) { QCOMPARE(s.sizer.GetItem(0), nullptr); });
+    row("SetSizeHints", "qwxSizer::SetSizeHints : stub", [](Stubs& s) { s.sizer.SetSizeHints(&s.host); });
+    row("Layout", "qwxSizer::Layout : stub", [](Stubs& s) { s.sizer.Layout(); });
+    row("item GetSize names the sizer", "qwxSizer::GetSize : stub",
+        [](Stubs& s) { QCOMPARE(s.item.GetSize(), wxSize(0, 0)); });
+    row("item GetSizer", "qwxSizer::GetSizer : stub", [](Stubs& s) { QCOMPARE(s.item.GetSizer(), nullptr); });
+    row("drop source", "qwxDropSource::qwxDropSource: stub + ownership?",
+        [](Stubs& s) { qwxDropSource(s.text, s.host); });
+    QTest::newRow("DoDragDrop") << int(QtDebugMsg)
+                                << QStringList{"qwxDropSource::qwxDropSource: stub + ownership?",
+                                               "qwxDropSource::DoDragDrop: stub"}
+                                << Call([](Stubs& s) { QCOMPARE(qwxDropSource(s.text, s.host).DoDragDrop(0), 0); });
+    row("SetDataObject frees the data", "qwxDropTarget::SetDataObject: stub", [](Stubs&) {
+        bool destroyed = false;
+        qwxDropTarget().SetDataObject(new Flagging<qwxDataObject>(destroyed));
+        QVERIFY(destroyed);
+    });
+    row("getMenuId", "qwxCommandEvent::getMenuId: stub", [](Stubs& s) {
+        QCOMPARE(qwxCommandEvent(&s.control, 3, nullptr).getMenuId(), 0);
+    });
+    row("Validate", "IValidator::Validate: needs implementations", [](Stubs& s) {
+        ValidatorJournal journal;
+        QCOMPARE(JournalValidator(journal).Validate(&s.host), false);
+    }, QtWarningMsg);
 }
 
 void tst_SmallServices::placeholders_logAndAnswerNeutrally()
 {
-    QFETCH(Placeholder, placeholder);
-    QFETCH(QString, message);
+    QFETCH(int, type);
+    QFETCH(QStringList, messages);
+    QFETCH(Call, call);
 
-    TestHost host;
-    qwxSizer sizer;
-    qwxSizerItem item;
-    qwxTextDataObject text("dragged");
-    if (placeholder == Placeholder::DoDragDrop)
-        QTest::ignoreMessage(QtDebugMsg, "qwxDropSource::qwxDropSource: stub + ownership?");
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(message));
-    switch (placeholder) {
-    case Placeholder::Insert: QCOMPARE(sizer.Insert(0, &host), nullptr); break;
-    case Placeholder::GetItem: QCOMPARE(sizer.GetItem(0), nullptr); break;
-    case Placeholder::SetSizeHints: sizer.SetSizeHints(&host); break;
-    case Placeholder::Layout: sizer.Layout(); break;
-    case Placeholder::GetSize: QCOMPARE(item.GetSize(), wxSize(0, 0)); break;
-    case Placeholder::GetSizer: QCOMPARE(item.GetSizer(), nullptr); break;
-    case Placeholder::DropSource: qwxDropSource(text, host); break;
-    case Placeholder::DoDragDrop: QCOMPARE(qwxDropSource(text, host).DoDragDrop(0), 0); break;
-    }
-}
-
-void tst_SmallServices::dropTarget_deletesTheDataItIsGiven()
-{
-    qwxDropTarget target;
-    bool destroyed = false;
-    QTest::ignoreMessage(QtDebugMsg, "qwxDropTarget::SetDataObject: stub");
-    target.SetDataObject(new FlaggingData(destroyed));
-    QVERIFY(destroyed);
-    QTest::ignoreMessage(QtDebugMsg, "qwxDropTarget::SetDataObject: stub");
-    target.SetDataObject(nullptr);
+    Stubs stubs;
+    for (const QString& message : messages)
+        QTest::ignoreMessage(QtMsgType(type), qPrintable(message));
+    call(stubs);
 }
 
 QTEST_MAIN(tst_SmallServices)

@@ -9,9 +9,8 @@
 
 #include <qut/qtconversions.h>
 
+#include "support/hostedqml.h"
 #include "support/logrecorder.h"
-#include "support/qmlfixture.h"
-#include "support/testhost.h"
 
 using namespace dbr;
 using namespace dbr::test;
@@ -21,44 +20,22 @@ class tst_TextCtrl : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { m_ui = std::make_unique<HostedQml>("texts.qml"); }
+    void cleanup() { m_ui.reset(); }
     void setValue_goesThroughClearAndInsertOnlyForANewText_data();
     void setValue_goesThroughClearAndInsertOnlyForANewText();
+    void changeValue_reachesNoHandler_data();
     void changeValue_reachesNoHandler();
-    void searchField_sharesTheTextRoutine();
     void selectionAndCursor_followTheItem();
     void style_isOneMessageAndNoEffect();
     void connect_killFocusArrivesWhenEditingFinishes();
 
 private:
-    qwxTextCtrl& text(const char* name);
-    QObject* item(const char* name) const { return m_host->root()->findChild<QObject*>(QLatin1String(name)); }
+    qwxTextCtrl& text(const char* name) { return *m_ui->host.list().child<qwxTextCtrl>(name); }
+    QObject* item(const char* name) const { return m_ui->item(name); }
 
-    std::unique_ptr<QmlFixture> m_qml;
-    std::unique_ptr<TestHost> m_host;
+    std::unique_ptr<HostedQml> m_ui;
 };
-
-void tst_TextCtrl::init()
-{
-    m_qml = std::make_unique<QmlFixture>();
-    m_host = std::make_unique<TestHost>(m_qml->loadFile(QStringLiteral("texts.qml")));
-    QVERIFY(m_host->root());
-    m_host->populate();
-}
-
-void tst_TextCtrl::cleanup()
-{
-    m_host.reset();
-    m_qml.reset();
-}
-
-qwxTextCtrl& tst_TextCtrl::text(const char* name)
-{
-    qwxTextCtrl* control = m_host->list().child<qwxTextCtrl>(name);
-    Q_ASSERT(control);
-    return *control;
-}
 
 void tst_TextCtrl::setValue_goesThroughClearAndInsertOnlyForANewText_data()
 {
@@ -94,33 +71,32 @@ void tst_TextCtrl::setValue_goesThroughClearAndInsertOnlyForANewText()
     QCOMPARE(control.IsModified(), item(name.constData())->property("canUndo").toBool());
 }
 
-void tst_TextCtrl::changeValue_reachesNoHandler()
+void tst_TextCtrl::changeValue_reachesNoHandler_data()
 {
-    QStringList heard;
-    m_host->list().connectToTextEvent("name", [&](qwxCommandEvent& event) { heard.append(qut::toQt(event.GetString())); });
-
-    text("name").SetValue("typed");
-    text("name").ChangeValue("quiet");
-    QCOMPARE(qut::toQt(text("name").GetValue()), QStringLiteral("quiet"));
-    text("name").SetValue("loud");
-    // The insert of "typed" and of "loud" are heard, with the text as it stands then.
-    QCOMPARE(heard, (QStringList{"typed", "", "loud"}));
-    QVERIFY(!item("name")->signalsBlocked());
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("text field") << QByteArray("name");
+    QTest::newRow("search field shares the routine") << QByteArray("search");
 }
 
-void tst_TextCtrl::searchField_sharesTheTextRoutine()
+void tst_TextCtrl::changeValue_reachesNoHandler()
 {
-    qwxSearchCtrl* search = m_host->list().child<qwxSearchCtrl>("search");
-    QVERIFY(search);
+    QFETCH(QByteArray, name);
     QStringList heard;
-    m_host->list().connectToTextEvent("search", [&](qwxCommandEvent& event) { heard.append(qut::toQt(event.GetString())); });
-
-    search->SetDescriptiveText("Find a layer");
-    QCOMPARE(item("search")->property("placeholderText").toString(), QStringLiteral("Find a layer"));
-    search->SetValue("wall");
-    search->ChangeValue("door");
-    QCOMPARE(qut::toQt(search->GetValue()), QStringLiteral("door"));
-    QCOMPARE(heard, QStringList{"wall"});
+    m_ui->host.list().connectToTextEvent(name.constData(),
+                                         [&](qwxCommandEvent& event) { heard.append(qut::toQt(event.GetString())); });
+    const auto edit = [](auto& control) {
+        control.SetValue("typed");
+        control.ChangeValue("quiet");
+        QCOMPARE(qut::toQt(control.GetValue()), QStringLiteral("quiet"));
+        control.SetValue("loud");
+    };
+    if (name == "search")
+        edit(*m_ui->host.list().child<qwxSearchCtrl>("search"));
+    else
+        edit(text("name"));
+    // The insert of "typed" and of "loud" are heard, with the text as it stands then.
+    QCOMPARE(heard, (QStringList{"typed", "", "loud"}));
+    QVERIFY(!item(name.constData())->signalsBlocked());
 }
 
 void tst_TextCtrl::selectionAndCursor_followTheItem()
@@ -135,28 +111,23 @@ void tst_TextCtrl::selectionAndCursor_followTheItem()
     QCOMPARE(from, 6L);
     QCOMPARE(to, 11L);
 
-    long untouched = 99;
-    control.GetSelection(nullptr, &untouched);
-    QCOMPARE(untouched, 99L);
-
     control.SetInsertionPoint(3);
     QCOMPARE(control.GetInsertionPoint(), 3L);
     QCOMPARE(control.GetLastPosition(), 11);
-    control.ShowPosition(0);
 }
 
 void tst_TextCtrl::style_isOneMessageAndNoEffect()
 {
     {
         LogRecorder log;
-        qwxTextCtrl plain("name", *m_host);
+        qwxTextCtrl plain("name", m_ui->host);
         QVERIFY(log.lines().isEmpty());
     }
     QTest::ignoreMessage(QtDebugMsg,
                          "qwxTextCtrl: ignore flags. Please update the qml component (if required) and remove the "
                          "flags from C++.\n\nFlags that don't need any changes and can just be removed:\n* "
                          "wxTE_NOHIDESEL\n* wxTE_PROCESS_ENTER\n* wxTE_RICH\n");
-    qwxTextCtrl styled("name", *m_host, 0x4000);
+    qwxTextCtrl styled("name", m_ui->host, 0x4000);
     styled.SetValue("still works");
     QCOMPARE(item("name")->property("text").toString(), QStringLiteral("still works"));
 }
@@ -174,7 +145,7 @@ void tst_TextCtrl::connect_killFocusArrivesWhenEditingFinishes()
 
     QVERIFY(QMetaObject::invokeMethod(item("name"), "editingFinished"));
     QCOMPARE(focusLost, 1);
-    m_host->list().resetCallbacks();
+    m_ui->host.list().resetCallbacks();
     QVERIFY(QMetaObject::invokeMethod(item("name"), "editingFinished"));
     QCOMPARE(focusLost, 1);
 }

@@ -5,10 +5,9 @@
 
 #include <qut/qtconversions.h>
 
+#include "support/hostedqml.h"
 #include "support/logrecorder.h"
 #include "support/messages.h"
-#include "support/qmlfixture.h"
-#include "support/testhost.h"
 
 using namespace dbr;
 using namespace dbr::test;
@@ -31,12 +30,6 @@ public:
 };
 int CountedControl::alive = 0;
 int CountedControl::made = 0;
-
-class DerivedControl : public TestControl
-{
-public:
-    using TestControl::TestControl;
-};
 
 // Another class that claims the same type name as TestControl.
 class TwinControl : public qwxControl
@@ -66,45 +59,41 @@ private Q_SLOTS:
     void cleanup();
 
     void populate_replacesEveryWrapperAndCallback();
-    void resetCallbacks_keepsTheWrappers();
     void findWindow_data();
     void findWindow();
     void child_castsDynamicallyAndExplainsAMismatch();
-    void onTimer_withoutTimerHelperLogs();
 
 private:
-    std::unique_ptr<QmlFixture> m_qml;
-    std::unique_ptr<TestHost> m_host;
+    std::unique_ptr<HostedQml> m_ui;
 };
 
 void tst_QmlChildList::init()
 {
-    m_qml = std::make_unique<QmlFixture>();
-    m_host = std::make_unique<TestHost>(m_qml->loadFile(QStringLiteral("walk.qml")));
-    QVERIFY(m_host->root());
-    m_host->setCustomTypes({{QStringLiteral("Field"), factoryOf<CountedControl>()}});
+    CountedControl::made = 0;
+    m_ui = std::make_unique<HostedQml>("walk.qml", CustomTypes{{"Field", factoryOf<CountedControl>()}});
 }
 
 void tst_QmlChildList::cleanup()
 {
-    m_host.reset();
-    m_qml.reset();
+    m_ui.reset();
     QCOMPARE(CountedControl::alive, 0);
 }
 
 void tst_QmlChildList::populate_replacesEveryWrapperAndCallback()
 {
-    QmlChildList& list = m_host->list();
-    QVERIFY(list.children().empty());
-    QCOMPARE(list.root(), m_host->root());
-
-    CountedControl::made = 0;
-    m_host->populate();
+    QmlChildList& list = m_ui->host.list();
     QCOMPARE(CountedControl::alive, 7);
+    qwxWindow* b = list.FindWindow("b");
     QPointer<QObject> callback = &list.addQmlCallback(std::make_unique<QObject>());
 
+    // Callbacks go alone; the wrappers stay.
+    list.resetCallbacks();
+    QVERIFY(callback.isNull());
+    QCOMPARE(list.FindWindow("b"), b);
+    callback = &list.addQmlCallback(std::make_unique<QObject>());
+
     // A second walk of the same tree: the former wrappers are all gone, fresh ones stand.
-    m_host->populate();
+    m_ui->host.populate();
     QCOMPARE(CountedControl::made, 14);
     QCOMPARE(CountedControl::alive, 7);
     QVERIFY(callback.isNull());
@@ -116,23 +105,6 @@ void tst_QmlChildList::populate_replacesEveryWrapperAndCallback()
     QCOMPARE(CountedControl::alive, 0);
 }
 
-void tst_QmlChildList::resetCallbacks_keepsTheWrappers()
-{
-    QmlChildList& list = m_host->list();
-    list.resetCallbacks(); // nothing to reset: nothing happens
-
-    m_host->populate();
-    qwxWindow* b = list.FindWindow("b");
-    QPointer<QObject> first = &list.addQmlCallback(std::make_unique<QObject>());
-    QPointer<QObject> second = &list.addQmlCallback(std::make_unique<QObject>());
-
-    list.resetCallbacks();
-    QVERIFY(first.isNull());
-    QVERIFY(second.isNull());
-    QCOMPARE(list.FindWindow("b"), b);
-    QCOMPARE(CountedControl::alive, 7);
-}
-
 void tst_QmlChildList::findWindow_data()
 {
     QTest::addColumn<QString>("hostName");
@@ -140,27 +112,16 @@ void tst_QmlChildList::findWindow_data()
     QTest::addColumn<QString>("found"); // the wrapped object name, "host" for the host, empty for none
     QTest::addColumn<QStringList>("criticals");
 
-    QTest::newRow("unique name") << "DialogAV"
-                                 << "b"
-                                 << "b" << QStringList{};
-    QTest::newRow("host by its own name") << "DialogAV"
-                                          << "DialogAV"
-                                          << "host" << QStringList{};
-    QTest::newRow("host's name wins over an item of that name") << "b"
-                                                                << "b"
-                                                                << "host" << QStringList{};
+    const QString dialog = QStringLiteral("DialogAV");
+    QTest::newRow("unique name") << dialog << "b" << "b" << QStringList{};
+    QTest::newRow("host by its own name") << dialog << dialog << "host" << QStringList{};
+    QTest::newRow("host's name wins over an item of that name") << "b" << "b" << "host" << QStringList{};
     QTest::newRow("non-ASCII host name") << QString::fromUtf8("Größe") << QString::fromUtf8("Größe") << "host"
                                          << QStringList{};
-    QTest::newRow("missing name") << "DialogAV"
-                                  << "zzz"
-                                  << "" << QStringList{"Unable to find window object 'zzz'"};
+    QTest::newRow("missing name") << dialog << "zzz" << "" << QStringList{"Unable to find window object 'zzz'"};
     QTest::newRow("name held by two items")
-        << "DialogAV"
-        << "a"
-        << "" << QStringList{"Error getting single window object 'a': 2 instances found"};
-    QTest::newRow("item without wrapper") << "DialogAV"
-                                          << "rect"
-                                          << "" << QStringList{"Unable to find window object 'rect'"};
+        << dialog << "a" << "" << QStringList{"Error getting single window object 'a': 2 instances found"};
+    QTest::newRow("item without wrapper") << dialog << "rect" << "" << QStringList{"Unable to find window object 'rect'"};
 }
 
 void tst_QmlChildList::findWindow()
@@ -170,7 +131,7 @@ void tst_QmlChildList::findWindow()
     QFETCH(QString, found);
     QFETCH(QStringList, criticals);
 
-    TestHost host(m_host->root(), hostName);
+    TestHost host(m_ui->host.root(), hostName);
     host.setCustomTypes({{QStringLiteral("Field"), factoryOf<TestControl>()}});
     host.populate();
 
@@ -178,7 +139,6 @@ void tst_QmlChildList::findWindow()
     expectMessages(QtCriticalMsg, criticals);
     qwxWindow* window = host.list().FindWindow(qut::odFromQt(name));
     QCOMPARE(log.lines(), criticals);
-
     if (found.isEmpty())
         QCOMPARE(window, nullptr);
     else if (found == QLatin1String("host"))
@@ -189,11 +149,8 @@ void tst_QmlChildList::findWindow()
 
 void tst_QmlChildList::child_castsDynamicallyAndExplainsAMismatch()
 {
-    m_host->setCustomTypes({{QStringLiteral("Field"), factoryOf<DerivedControl>()}});
-    m_host->populate();
-    QmlChildList& list = m_host->list();
-
-    QVERIFY(list.child<DerivedControl>("b"));
+    QmlChildList& list = m_ui->host.list();
+    QVERIFY(list.child<CountedControl>("b"));
     QVERIFY(list.child<TestControl>("b"));
 
     QTest::ignoreMessage(QtCriticalMsg, "Child object (b) has type 'TestControl', expected 'OtherControl'");
@@ -209,13 +166,6 @@ void tst_QmlChildList::child_castsDynamicallyAndExplainsAMismatch()
     QTest::ignoreMessage(QtCriticalMsg, "Unable to find window object 'zzz'");
     QCOMPARE(list.child<TestControl>("zzz"), nullptr);
     QCOMPARE(log.lines().size(), 1);
-}
-
-void tst_QmlChildList::onTimer_withoutTimerHelperLogs()
-{
-    m_host->populate();
-    QTest::ignoreMessage(QtCriticalMsg, "No timer helper initialized 7");
-    m_host->list().onTimer(7);
 }
 
 QTEST_MAIN(tst_QmlChildList)

@@ -15,8 +15,8 @@ class tst_ComponentKit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { m_qml = std::make_unique<QmlFixture>(); }
+    void cleanup() { m_qml.reset(); }
 
     void component_offersWhatItsWrapperUses_data();
     void component_offersWhatItsWrapperUses();
@@ -29,16 +29,6 @@ private:
 
     std::unique_ptr<QmlFixture> m_qml;
 };
-
-void tst_ComponentKit::init()
-{
-    m_qml = std::make_unique<QmlFixture>();
-}
-
-void tst_ComponentKit::cleanup()
-{
-    m_qml.reset();
-}
 
 QObject* tst_ComponentKit::load(const QByteArray& component)
 {
@@ -103,7 +93,7 @@ void tst_ComponentKit::toggleButton_aClickedSegmentBecomesCurrent()
     QVERIFY(changed.isValid());
     ItemWindow window(root);
     QCOMPARE(toggle->childItems().size(), 4); // three segments, then their repeater
-    window.click(toggle->childItems().at(2));
+    clickItem(toggle->childItems().at(2));
     QCOMPARE(toggle->property("currentIndex").toInt(), 2);
     QCOMPARE(changed.count(), 1);
 }

@@ -23,11 +23,6 @@ ItemWindow::~ItemWindow()
     m_root->setParentItem(nullptr);
 }
 
-void ItemWindow::click(QObject* item)
-{
-    clickItem(item);
-}
-
 void clickItem(QObject* item)
 {
     auto* quickItem = qobject_cast<QQuickItem*>(item);

@@ -13,10 +13,6 @@ public:
     explicit ItemWindow(QObject* root);
     ~ItemWindow();
 
-    // Presses and releases the left button in the middle of the item.
-    void click(QObject* item);
-    QQuickWindow& window() { return m_window; }
-
 private:
     QQuickWindow m_window;
     QQuickItem* m_root;

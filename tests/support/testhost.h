@@ -12,22 +12,29 @@ namespace dbr::test {
 class TestHost : public qwxWindow
 {
 public:
-    explicit TestHost(QObject* root = nullptr, const QString& name = QStringLiteral("DialogAV"));
-    ~TestHost() override;
+    explicit TestHost(QObject* root = nullptr, const QString& name = QStringLiteral("DialogAV"))
+        : m_root(root)
+        , m_name(name)
+        , m_list(*this)
+    {}
 
-    static QString typeId();
-    QString typeName() const override;
-    QString wrappedObjectName() const override;
-    QObject* root() const override;
-    const QmlChildList* qmlChildren(UseParentListIfNone mode) const override;
-    QmlChildList* qmlChildren(UseParentListIfNone mode) override;
-    CustomTypes registerCustomTypes() override;
+    static QString typeId() { return QStringLiteral("TestHost"); }
+    QString typeName() const override { return typeId(); }
+    QString wrappedObjectName() const override { return m_name; }
+    QObject* root() const override { return m_root; }
+    const QmlChildList* qmlChildren(UseParentListIfNone) const override { return &m_list; }
+    QmlChildList* qmlChildren(UseParentListIfNone) override { return &m_list; }
+    CustomTypes registerCustomTypes() override { return m_customTypes; }
 
     void setRoot(QObject* root) { m_root = root; }
     void setCustomTypes(CustomTypes types) { m_customTypes = std::move(types); }
     QmlChildList& list() { return m_list; }
     // Populates the list from the current root.
-    void populate();
+    void populate()
+    {
+        if (m_root)
+            m_list.populate(*m_root);
+    }
 
 private:
     QPointer<QObject> m_root;
@@ -42,8 +49,8 @@ class TestControl : public qwxControl
 public:
     using qwxControl::qwxControl;
 
-    static QString typeId();
-    QString typeName() const override;
+    static QString typeId() { return QStringLiteral("TestControl"); }
+    QString typeName() const override { return typeId(); }
 };
 
 // A factory for the given wrapper class, as registerCustomTypes returns them.

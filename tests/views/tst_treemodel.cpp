@@ -5,11 +5,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <qut/itemroles.h>
-
-#include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -22,12 +20,10 @@ struct Payload
 
 using Item = qut::TreeItem<Payload>;
 
-// Names in column 0, child counts in column 1; the edit role renames.
+// Names in column 0, child counts in column 1.
 class NameModel : public qut::TreeModel<Payload>
 {
 public:
-    using TreeModel::TreeModel;
-
     int columnCount(const QModelIndex& = QModelIndex()) const override { return 2; }
 
     QVariant dataImpl(const QModelIndex& index, int role) const override
@@ -36,16 +32,6 @@ public:
         if (!item || role != Qt::DisplayRole)
             return QVariant();
         return index.column() == 0 ? QVariant(item->data.name) : QVariant(int(item->children.size()));
-    }
-
-    bool setDataImpl(const QModelIndex& index, const QVariant& value, int role) override
-    {
-        Item* item = getTreeItem(index);
-        if (!item || role != Qt::EditRole)
-            return TreeModel::setDataImpl(index, value, role);
-        item->data.name = value.toString();
-        Q_EMIT dataChanged(index, index, {Qt::DisplayRole});
-        return true;
     }
 };
 
@@ -84,10 +70,8 @@ QString dump(const Item& parent)
 {
     QStringList parts;
     for (const auto& child : parent.children) {
-        if (!child)
-            return QStringLiteral("<null slot>");
-        if (child->parent != &parent)
-            return QStringLiteral("<bad parent of %1>").arg(child->data.name);
+        if (!child || child->parent != &parent)
+            return QStringLiteral("<bad slot>");
         parts << child->data.name + (child->children.empty() ? QString() : '(' + dump(*child) + ')');
     }
     return parts.join(',');
@@ -120,223 +104,88 @@ std::map<QString, const Item*> nodesOf(const NameModel& model)
     return nodes;
 }
 
-// Structure expectedSignals as "insert(parent,first-last)", "remove(...)", "reset",
-// "changed(name)", with "root" for the invalid parent.
-class SignalLog : public QObject
-{
-public:
-    explicit SignalLog(NameModel& model)
-    {
-        const auto where = [&model](const QModelIndex& parent, int first, int last) {
-            const Item* item = model.getTreeItem(parent);
-            return QStringLiteral("(%1,%2-%3)").arg(item ? item->data.name : QStringLiteral("root")).arg(first).arg(last);
-        };
-        connect(&model, &QAbstractItemModel::rowsAboutToBeInserted, this,
-                [=](const QModelIndex& parent, int first, int last) { lines << "insert" + where(parent, first, last); });
-        connect(&model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
-                [=](const QModelIndex& parent, int first, int last) { lines << "remove" + where(parent, first, last); });
-        connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { lines << "reset"; });
-        connect(&model, &QAbstractItemModel::dataChanged, this,
-                [this, &model](const QModelIndex& from, const QModelIndex& to, const QVector<int>& roles) {
-                    QCOMPARE(from, to);
-                    QStringList names;
-                    for (int role : roles)
-                        names << QString::number(role);
-                    lines << QStringLiteral("changed(%1:%2)").arg(model.getTreeItem(from)->data.name, names.join(','));
-                });
-    }
-
-    QStringList lines;
-};
-
-// Visitor answers from "b:skip,d:stop"; unnamed nodes continue.
-template<typename Answer>
-std::map<QString, Answer> answersFrom(const QString& text, const std::map<QString, Answer>& words)
-{
-    std::map<QString, Answer> answers;
-    for (const QString& pair : text.split(',', Qt::SkipEmptyParts)) {
-        const QStringList parts = pair.split(':');
-        answers[parts[0]] = words.at(parts[1]);
-    }
-    return answers;
-}
-
-using Deletion = std::function<void(NameModel&)>;
-
 } // namespace
-
-Q_DECLARE_METATYPE(Deletion)
 
 class tst_TreeModel : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { m_model = std::make_unique<NameModel>(); }
 
-    void indexes_refuseWhatIsNoChild();
-    void createItemIndex_searchesTheRowAndWarnsForAStrayNode();
-    void insertItem_data();
-    void insertItem();
+    void strayNodes_warnAndChangeNothing();
     void insertItem_outOfBoundsDestroysTheItemAndStillAnnounces_data();
     void insertItem_outOfBoundsDestroysTheItemAndStillAnnounces();
     void moveItem_data();
     void moveItem();
-    void deletions_data();
-    void deletions();
-    void deleteItem_childOfAnotherParentWarnsAndChangesNothing();
-    void reset_keepsTheRootPayload();
-    void update_reportsOnlyWhatChanged();
-    void expandRole_storesTheFlagOnlyForBooleans();
     void traverseTree_data();
     void traverseTree();
-    void traverseTreeEdit_data();
-    void traverseTreeEdit();
-    void findInTree_returnsTheFirstInWalkOrder();
     void randomSequences_keepModelAndNodesSound_data();
     void randomSequences_keepModelAndNodesSound();
 
 private:
-    NameModel* attachedModel();
+    NameModel& attachedModel();
 
     std::unique_ptr<NameModel> m_model;
 };
 
-void tst_TreeModel::init()
-{
-    m_model = std::make_unique<NameModel>();
-}
-
-void tst_TreeModel::cleanup()
-{
-    m_model.reset();
-}
-
-NameModel* tst_TreeModel::attachedModel()
+NameModel& tst_TreeModel::attachedModel()
 {
     new QAbstractItemModelTester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest,
                                  m_model.get());
-    return m_model.get();
+    return *m_model;
 }
 
-void tst_TreeModel::indexes_refuseWhatIsNoChild()
+void tst_TreeModel::strayNodes_warnAndChangeNothing()
 {
-    NameModel& model = *attachedModel();
-    build(model, "a(b(c))");
-    const QModelIndex a = model.index(0, 0);
-    const QModelIndex aSecondColumn = model.index(0, 1);
-    QVERIFY(aSecondColumn.isValid());
-    QCOMPARE(model.getTreeItem(aSecondColumn), find(model, "a"));
+    NameModel& model = attachedModel();
+    build(model, "a(b,c,d),e");
+    QSignalSpy removals(&model, &QAbstractItemModel::rowsAboutToBeRemoved);
+    QVERIFY(removals.isValid());
 
-    QVERIFY(!model.index(0, 0, aSecondColumn).isValid());
-    QCOMPARE(model.rowCount(aSecondColumn), 0);
-    QVERIFY(!model.index(-1, 0).isValid());
-    QVERIFY(!model.index(1, 0).isValid());
-    QVERIFY(!model.index(1, 0, a).isValid());
-
-    // A top-level node's parent is the invalid index, never one of the root.
-    QVERIFY(!model.parent(a).isValid());
-    const QModelIndex b = model.index(0, 0, a);
-    const QModelIndex cSecondColumn = model.index(0, 1, b);
-    QCOMPARE(model.parent(cSecondColumn), b);
-    QCOMPARE(model.parent(b), a);
-
-    QVERIFY(!model.createItemIndex(model.root()).isValid());
-    QVERIFY(!model.createItemIndex(nullptr).isValid());
-    QVERIFY(!model.createItemIndex(3, 1, model.root()).isValid());
-    QCOMPARE(model.getTreeItem(QModelIndex()), nullptr);
-    QCOMPARE(model.getTreeItemOrRoot(QModelIndex()), model.root());
-    QVERIFY(!model.rootIndex().isValid());
-}
-
-void tst_TreeModel::createItemIndex_searchesTheRowAndWarnsForAStrayNode()
-{
-    NameModel& model = *attachedModel();
-    build(model, "a(b,c,d)");
-    Item* d = find(model, "d");
-    QCOMPARE(model.createItemIndex(d), model.index(2, 0, model.index(0, 0)));
-    // The row is taken on trust.
-    QCOMPARE(model.createItemIndex(7, 1, d).row(), 7);
-
-    // Claims a parent that doesn't hold it.
+    // Claims a parent that doesn't hold it: row 0 is a guess.
     Item stray;
-    stray.parent = d;
+    stray.parent = find(model, "d");
     QTest::ignoreMessage(QtWarningMsg, "Tree child item not found in parent");
     const QModelIndex strayIndex = model.createItemIndex(&stray);
     QCOMPARE(strayIndex.row(), 0);
     QCOMPARE(model.getTreeItem(strayIndex), &stray);
-    QCOMPARE(dump(model), QStringLiteral("a(b,c,d)"));
-}
 
-void tst_TreeModel::insertItem_data()
-{
-    QTest::addColumn<QString>("parent");
-    QTest::addColumn<int>("position");
-    QTest::addColumn<QString>("tree");
-    QTest::addColumn<QString>("signal");
-
-    QTest::newRow("front of root") << "" << 0 << "x,a(b,c),d" << "insert(root,0-0)";
-    QTest::newRow("between") << "" << 1 << "a(b,c),x,d" << "insert(root,1-1)";
-    QTest::newRow("count appends") << "" << 2 << "a(b,c),d,x" << "insert(root,2-2)";
-    QTest::newRow("nested middle") << "a" << 1 << "a(b,x,c),d" << "insert(a,1-1)";
-    QTest::newRow("under a leaf") << "d" << 0 << "a(b,c),d(x)" << "insert(d,0-0)";
-}
-
-void tst_TreeModel::insertItem()
-{
-    QFETCH(QString, parent);
-    QFETCH(int, position);
-    QFETCH(QString, tree);
-    QFETCH(QString, signal);
-
-    NameModel& model = *attachedModel();
-    build(model, "a(b,c),d");
-    SignalLog log(model);
-    auto item = makeItem("x");
-    Item* expected = item.get();
-    Item* owner = find(model, parent);
-
-    QCOMPARE(model.insertItem(*owner, position, std::move(item)), expected);
-    QCOMPARE(expected->parent, owner);
-    QCOMPARE(dump(model), tree);
-    QCOMPARE(log.lines, QStringList{signal});
-    QCOMPARE(model.createItemIndex(expected).row(), position);
+    QTest::ignoreMessage(QtWarningMsg, "Tree child item not found in parent");
+    model.deleteItem(*find(model, "e"), *find(model, "b"));
+    QCOMPARE(dump(model), QStringLiteral("a(b,c,d),e"));
+    QCOMPARE(removals.count(), 0);
 }
 
 void tst_TreeModel::insertItem_outOfBoundsDestroysTheItemAndStillAnnounces_data()
 {
     QTest::addColumn<QString>("parent");
     QTest::addColumn<int>("position");
-    QTest::addColumn<QString>("signal");
 
-    QTest::newRow("one past the end") << "" << 4 << "insert(root,4-4)";
-    QTest::newRow("negative") << "" << -1 << "insert(root,-1--1)";
-    QTest::newRow("past the end of a child") << "a" << 2 << "insert(a,2-2)";
-    QTest::newRow("into a leaf") << "b" << 1 << "insert(b,1-1)";
+    QTest::newRow("one past the end") << "" << 4;
+    QTest::newRow("into a leaf") << "b" << 1;
 }
 
 void tst_TreeModel::insertItem_outOfBoundsDestroysTheItemAndStillAnnounces()
 {
     QFETCH(QString, parent);
     QFETCH(int, position);
-    QFETCH(QString, signal);
 
     // The announced row never arrives, which a tester would rightly flag; it
     // checks the tree that is left instead.
     NameModel& model = *m_model;
     build(model, "a(b),c,d");
-    SignalLog log(model);
+    Item* owner = find(model, parent);
     QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
     QVERIFY(inserted.isValid());
     auto item = makeItem("x");
     const std::weak_ptr<int> life = item->data.life;
 
     QTest::ignoreMessage(QtDebugMsg, "Trying to insert item out of bounds");
-    QCOMPARE(model.insertItem(*find(model, parent), position, std::move(item)), nullptr);
+    QCOMPARE(model.insertItem(*owner, position, std::move(item)), nullptr);
     QVERIFY(life.expired());
-    QCOMPARE(log.lines, QStringList{signal});
     QCOMPARE(inserted.count(), 1);
+    QCOMPARE(model.getTreeItemOrRoot(inserted.at(0).at(0).value<QModelIndex>()), owner);
     QCOMPARE(inserted.at(0).at(1).toInt(), position);
     QCOMPARE(dump(model), QStringLiteral("a(b),c,d"));
     attachedModel();
@@ -347,266 +196,98 @@ void tst_TreeModel::moveItem_data()
     QTest::addColumn<QString>("item");
     QTest::addColumn<QString>("newParent");
     QTest::addColumn<QString>("tree");
-    QTest::addColumn<QStringList>("expectedSignals");
 
-    QTest::newRow("subtree to another node") << "b" << "e" << "a(d),e(f,b(c))"
-                                             << QStringList{"remove(a,0-0)", "insert(e,1-1)"};
-    QTest::newRow("onto its own parent goes last") << "b" << "a" << "a(d,b(c)),e(f)"
-                                                   << QStringList{"remove(a,0-0)", "insert(a,1-1)"};
-    QTest::newRow("up to the root") << "c" << "" << "a(b,d),e(f),c"
-                                    << QStringList{"remove(b,0-0)", "insert(root,2-2)"};
-    QTest::newRow("top level down") << "a" << "f" << "e(f(a(b(c),d)))"
-                                    << QStringList{"remove(root,0-0)", "insert(f,0-0)"};
+    QTest::newRow("subtree to another node") << "b" << "e" << "a(d),e(f,b(c))";
+    QTest::newRow("onto its own parent goes last") << "b" << "a" << "a(d,b(c)),e(f)";
+    QTest::newRow("up to the root") << "c" << "" << "a(b,d),e(f),c";
+    QTest::newRow("top level down") << "a" << "f" << "e(f(a(b(c),d)))";
     // It would own itself and drop out of the tree.
-    QTest::newRow("into its own subtree is refused") << "b" << "c" << "a(b(c),d),e(f)" << QStringList();
-    QTest::newRow("onto itself is refused") << "b" << "b" << "a(b(c),d),e(f)" << QStringList();
+    QTest::newRow("into its own subtree is refused") << "b" << "c" << "a(b(c),d),e(f)";
+    QTest::newRow("onto itself is refused") << "b" << "b" << "a(b(c),d),e(f)";
 }
 
+// The tester checks the signals; here the moved nodes keep their addresses.
 void tst_TreeModel::moveItem()
 {
     QFETCH(QString, item);
     QFETCH(QString, newParent);
     QFETCH(QString, tree);
-    QFETCH(QStringList, expectedSignals);
 
-    NameModel& model = *attachedModel();
+    NameModel& model = attachedModel();
     build(model, "a(b(c),d),e(f)");
     const auto before = nodesOf(model);
-    SignalLog log(model);
     Item* moved = find(model, item);
+    const bool refused = tree == dump(model);
 
-    QCOMPARE(model.moveItem(*moved, *find(model, newParent)), expectedSignals.isEmpty() ? nullptr : moved);
+    QCOMPARE(model.moveItem(*moved, *find(model, newParent)), refused ? nullptr : moved);
     QCOMPARE(dump(model), tree);
-    QCOMPARE(log.lines, expectedSignals);
     QVERIFY(nodesOf(model) == before);
-}
-
-void tst_TreeModel::deletions_data()
-{
-    QTest::addColumn<Deletion>("deletion");
-    QTest::addColumn<QString>("tree");
-    QTest::addColumn<QStringList>("expectedSignals");
-
-    QTest::newRow("row") << Deletion([](NameModel& m) { m.deleteItem(*find(m, "a"), 1); }) << "a(b(c)),e"
-                         << QStringList{"remove(a,1-1)"};
-    QTest::newRow("child") << Deletion([](NameModel& m) { m.deleteItem(*find(m, "a"), *find(m, "b")); })
-                           << "a(d),e" << QStringList{"remove(a,0-0)"};
-    QTest::newRow("row past the end") << Deletion([](NameModel& m) { m.deleteItem(*find(m, "a"), 2); })
-                                      << "a(b(c),d),e" << QStringList();
-    QTest::newRow("negative row") << Deletion([](NameModel& m) { m.deleteItem(*m.root(), -1); }) << "a(b(c),d),e"
-                                  << QStringList();
-    QTest::newRow("children") << Deletion([](NameModel& m) { m.deleteChildren(*find(m, "a")); }) << "a,e"
-                              << QStringList{"remove(a,0-1)"};
-    QTest::newRow("children of a leaf") << Deletion([](NameModel& m) { m.deleteChildren(*find(m, "e")); })
-                                        << "a(b(c),d),e" << QStringList();
-    QTest::newRow("children of the root") << Deletion([](NameModel& m) { m.deleteChildren(*m.root()); }) << ""
-                                          << QStringList{"remove(root,0-1)"};
-}
-
-void tst_TreeModel::deletions()
-{
-    QFETCH(Deletion, deletion);
-    QFETCH(QString, tree);
-    QFETCH(QStringList, expectedSignals);
-
-    NameModel& model = *attachedModel();
-    build(model, "a(b(c),d),e");
-    const std::weak_ptr<int> lifeOfC = find(model, "c")->data.life;
-    SignalLog log(model);
-
-    deletion(model);
-    QCOMPARE(dump(model), tree);
-    QCOMPARE(log.lines, expectedSignals);
-    // A deleted node takes its subtree with it.
-    QCOMPARE(!lifeOfC.expired(), tree.contains('c'));
-}
-
-void tst_TreeModel::deleteItem_childOfAnotherParentWarnsAndChangesNothing()
-{
-    NameModel& model = *attachedModel();
-    build(model, "a(b),c");
-    SignalLog log(model);
-
-    QTest::ignoreMessage(QtWarningMsg, "Tree child item not found in parent");
-    model.deleteItem(*find(model, "c"), *find(model, "b"));
-    QCOMPARE(dump(model), QStringLiteral("a(b),c"));
-    QVERIFY(log.lines.isEmpty());
-}
-
-void tst_TreeModel::reset_keepsTheRootPayload()
-{
-    NameModel& model = *attachedModel();
-    model.root()->data.name = "root text";
-    build(model, "a(b),c");
-    const std::weak_ptr<int> lifeOfB = find(model, "b")->data.life;
-    SignalLog log(model);
-
-    model.reset();
-    QCOMPARE(log.lines, QStringList{"reset"});
-    QCOMPARE(model.rowCount(), 0);
-    QVERIFY(lifeOfB.expired());
-    QCOMPARE(model.root()->data.name, QStringLiteral("root text"));
-}
-
-void tst_TreeModel::update_reportsOnlyWhatChanged()
-{
-    NameModel& model = *attachedModel();
-    build(model, "a(b)");
-    SignalLog log(model);
-    const QModelIndex b = model.index(0, 0, model.index(0, 0));
-    const auto rename = [](Payload& data) {
-        data.name = "renamed";
-        return true;
-    };
-
-    model.update(b, rename, {Qt::DisplayRole, Qt::ToolTipRole});
-    QCOMPARE(log.lines, QStringList{"changed(renamed:0,3)"});
-
-    log.lines.clear();
-    model.update(b, [](Payload& data) { return data.name.isEmpty(); }, {Qt::DisplayRole});
-    QVERIFY(log.lines.isEmpty());
-
-    int calls = 0;
-    model.update(QModelIndex(), [&calls](Payload&) { return ++calls > 0; }, {});
-    QCOMPARE(calls, 0);
-    QVERIFY(log.lines.isEmpty());
-
-    QVERIFY_EXCEPTION_THROWN(model.update(b, std::function<bool(Payload&)>(), {}), std::bad_function_call);
-}
-
-void tst_TreeModel::expandRole_storesTheFlagOnlyForBooleans()
-{
-    NameModel& model = *attachedModel();
-    build(model, "a(b)");
-    const int role = qut::getWantsToBeExpandedRole();
-    QVERIFY(role < Qt::UserRole || role > Qt::UserRole + 10);
-    const QModelIndex a = model.index(0, 0);
-
-    QCOMPARE(model.data(a, role), QVariant(false));
-    QVERIFY(!model.data(QModelIndex(), role).isValid());
-    QVERIFY(!model.setData(a, 1, role));
-    QVERIFY(!model.setData(a, QStringLiteral("true"), role));
-    QVERIFY(!model.setData(QModelIndex(), true, role));
-    QCOMPARE(find(model, "a")->wantsToBeExpanded, false);
-
-    QVERIFY(model.setData(a, true, role));
-    QCOMPARE(find(model, "a")->wantsToBeExpanded, true);
-    QCOMPARE(model.data(a, role), QVariant(true));
-    QCOMPARE(model.data(model.index(0, 0, a), role), QVariant(false));
-
-    // Other roles are the subclass's.
-    QVERIFY(model.setData(a, QStringLiteral("z"), Qt::EditRole));
-    QCOMPARE(model.data(a, Qt::DisplayRole), QVariant(QStringLiteral("z")));
-    QVERIFY(!model.setData(a, QStringLiteral("y"), Qt::ToolTipRole));
 }
 
 void tst_TreeModel::traverseTree_data()
 {
-    QTest::addColumn<QString>("tree");
     QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("answers");
+    QTest::addColumn<QString>("answers"); // "b:skip,d:delete"; unnamed nodes continue
     QTest::addColumn<QString>("visits");
-
-    QTest::newRow("children before grandchildren") << "a(b,c),d" << "" << "" << "a,d,b,c";
-    QTest::newRow("last pushed entered first") << "a(b(c),e),f(g,h)" << "" << "" << "a,f,g,h,b,e,c";
-    QTest::newRow("from a node") << "a(b(c),e),f(g,h)" << "a" << "" << "a,b,e,c";
-    QTest::newRow("from a leaf") << "a(b(c),e),f(g,h)" << "h" << "" << "h";
-    QTest::newRow("skip at the start") << "a(b(c),e),f(g,h)" << "a" << "a:skip" << "a";
-    QTest::newRow("stop at the start") << "a(b(c),e),f(g,h)" << "a" << "a:stop" << "a";
-    QTest::newRow("skip below a node") << "a(b(c),e),f(g,h)" << "" << "a:skip" << "a,f,g,h";
-    QTest::newRow("skip keeps the siblings") << "a(b(c),e),f(g,h)" << "" << "b:skip,f:skip" << "a,f,b,e";
-    QTest::newRow("stop ends at once") << "a(b(c),e),f(g,h)" << "" << "g:stop" << "a,f,g";
-    QTest::newRow("empty tree") << "" << "" << "" << "";
-}
-
-void tst_TreeModel::traverseTree()
-{
-    QFETCH(QString, tree);
-    QFETCH(QString, start);
-    QFETCH(QString, answers);
-    QFETCH(QString, visits);
-
-    NameModel& model = *attachedModel();
-    model.root()->data.name = "root";
-    build(model, tree);
-    const auto answerOf = answersFrom<qut::TreeWalk>(
-        answers, {{"skip", qut::TreeWalk::SkipChildren}, {"stop", qut::TreeWalk::Stop}});
-    QStringList visited;
-    const NameModel& constModel = model;
-
-    constModel.traverseTree(
-        [&](const Item& item) {
-            visited << item.data.name;
-            const auto answer = answerOf.find(item.data.name);
-            return answer == answerOf.end() ? qut::TreeWalk::Continue : answer->second;
-        },
-        model.createItemIndex(start.isEmpty() ? nullptr : find(model, start)));
-    QCOMPARE(visited.join(','), visits);
-}
-
-void tst_TreeModel::traverseTreeEdit_data()
-{
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("answers");
-    QTest::addColumn<QString>("visits");
-    QTest::addColumn<QString>("tree");
-    QTest::addColumn<QStringList>("expectedSignals");
+    QTest::addColumn<QString>("tree"); // what an editing walk leaves
 
     const QString all = "a(b(c),e,i),f(g,h)";
-    QTest::newRow("no deletion") << "" << "" << "a,f,g,h,b,e,i,c" << all << QStringList();
-    QTest::newRow("every top-level node, always at row 0")
-        << "" << "a:delete,f:delete" << "a,f" << "" << QStringList{"remove(root,0-0)", "remove(root,0-0)"};
-    QTest::newRow("the next sibling comes next") << "" << "b:delete,e:delete" << "a,f,g,h,b,e,i" << "a(i),f(g,h)"
-                                                 << QStringList{"remove(a,0-0)", "remove(a,0-0)"};
-    QTest::newRow("the last sibling") << "" << "h:delete" << "a,f,g,h,b,e,i,c" << "a(b(c),e,i),f(g)"
-                                      << QStringList{"remove(f,1-1)"};
-    QTest::newRow("the start node ends the walk") << "a" << "a:delete" << "a" << "f(g,h)"
-                                                  << QStringList{"remove(root,0-0)"};
-    QTest::newRow("below the start") << "a" << "e:delete" << "a,b,e,i,c" << "a(b(c),i),f(g,h)"
-                                     << QStringList{"remove(a,1-1)"};
-    QTest::newRow("stop after a deletion") << "" << "f:delete,b:stop" << "a,f,b" << "a(b(c),e,i)"
-                                           << QStringList{"remove(root,1-1)"};
-    QTest::newRow("skip") << "" << "a:skip,g:delete" << "a,f,g,h" << "a(b(c),e,i),f(h)"
-                          << QStringList{"remove(f,0-0)"};
+    QTest::newRow("children before grandchildren, last pushed first") << "" << "" << "a,f,g,h,b,e,i,c" << all;
+    QTest::newRow("from a node") << "a" << "" << "a,b,e,i,c" << all;
+    QTest::newRow("skip at the start") << "a" << "a:skip" << "a" << all;
+    QTest::newRow("skip keeps the siblings") << "" << "b:skip,f:skip" << "a,f,b,e,i" << all;
+    QTest::newRow("stop ends at once") << "" << "g:stop" << "a,f,g" << all;
+    QTest::newRow("delete every top-level node") << "" << "a:delete,f:delete" << "a,f" << "";
+    QTest::newRow("after a deletion the next sibling comes") << "" << "b:delete,e:delete" << "a,f,g,h,b,e,i"
+                                                             << "a(i),f(g,h)";
+    QTest::newRow("deleting the start ends the walk") << "a" << "a:delete" << "a" << "f(g,h)";
+    QTest::newRow("stop after a deletion") << "" << "f:delete,b:stop" << "a,f,b" << "a(b(c),e,i)";
 }
 
-void tst_TreeModel::traverseTreeEdit()
+// Both walks, the reading one and the editing one, visit in the same order.
+void tst_TreeModel::traverseTree()
 {
     QFETCH(QString, start);
     QFETCH(QString, answers);
     QFETCH(QString, visits);
     QFETCH(QString, tree);
-    QFETCH(QStringList, expectedSignals);
 
-    NameModel& model = *attachedModel();
+    NameModel& model = attachedModel();
     build(model, "a(b(c),e,i),f(g,h)");
-    SignalLog log(model);
-    const auto answerOf = answersFrom<qut::TreeWalkEdit>(answers, {{"skip", qut::TreeWalkEdit::SkipChildren},
-                                                                   {"stop", qut::TreeWalkEdit::Stop},
-                                                                   {"delete", qut::TreeWalkEdit::Delete}});
-    QStringList visited;
+    std::map<QString, QString> answerOf;
+    for (const QString& pair : answers.split(',', Qt::SkipEmptyParts))
+        answerOf[pair.section(':', 0, 0)] = pair.section(':', 1);
+    const auto answer = [&answerOf](const Item& item) {
+        const auto found = answerOf.find(item.data.name);
+        return found == answerOf.end() ? QString() : found->second;
+    };
+    const QModelIndex from = model.createItemIndex(start.isEmpty() ? nullptr : find(model, start));
 
+    QStringList visited;
+    if (!answers.contains("delete")) {
+        std::as_const(model).traverseTree(
+            [&](const Item& item) {
+                visited << item.data.name;
+                const QString word = answer(item);
+                return word == "skip" ? qut::TreeWalk::SkipChildren
+                                      : word == "stop" ? qut::TreeWalk::Stop : qut::TreeWalk::Continue;
+            },
+            from);
+        QCOMPARE(visited.join(','), visits);
+        visited.clear();
+    }
     model.traverseTree(
         [&](Item& item) {
             visited << item.data.name;
-            const auto answer = answerOf.find(item.data.name);
-            return answer == answerOf.end() ? qut::TreeWalkEdit::Continue : answer->second;
+            const QString word = answer(item);
+            return word == "skip"     ? qut::TreeWalkEdit::SkipChildren
+                   : word == "stop"   ? qut::TreeWalkEdit::Stop
+                   : word == "delete" ? qut::TreeWalkEdit::Delete
+                                      : qut::TreeWalkEdit::Continue;
         },
-        model.createItemIndex(start.isEmpty() ? nullptr : find(model, start)));
+        from);
     QCOMPARE(visited.join(','), visits);
     QCOMPARE(dump(model), tree);
-    QCOMPARE(log.lines, expectedSignals);
-}
-
-void tst_TreeModel::findInTree_returnsTheFirstInWalkOrder()
-{
-    NameModel& model = *attachedModel();
-    build(model, "a(x1),x2");
-    const auto startsWithX = [](const Item& item) { return item.data.name.startsWith('x'); };
-    // Depth first would give x1.
-    QCOMPARE(model.findInTree(startsWithX)->data.name, QStringLiteral("x2"));
-    QCOMPARE(model.findInTree([](const Item& item) { return item.data.name == "y"; }), nullptr);
-    QCOMPARE(model.findInTree([](const Item&) { return true; })->data.name, QStringLiteral("a"));
 }
 
 void tst_TreeModel::randomSequences_keepModelAndNodesSound_data()
@@ -623,7 +304,7 @@ void tst_TreeModel::randomSequences_keepModelAndNodesSound()
 {
     QFETCH(quint32, seed);
 
-    NameModel& model = *attachedModel();
+    NameModel& model = attachedModel();
     QRandomGenerator random(seed);
     int made = 0;
     std::vector<Item*> nodes;
@@ -635,7 +316,6 @@ void tst_TreeModel::randomSequences_keepModelAndNodesSound()
         });
         return nodes.empty() ? nullptr : nodes[random.bounded(int(nodes.size()))];
     };
-    const auto anyParent = [&]() { return random.bounded(4) == 0 ? model.root() : anyNode(); };
     const auto isWithin = [](const Item* node, const Item* ancestor) {
         for (; node; node = node->parent) {
             if (node == ancestor)
@@ -646,7 +326,7 @@ void tst_TreeModel::randomSequences_keepModelAndNodesSound()
 
     for (int step = 0; step < 400; ++step) {
         const auto before = nodesOf(model);
-        Item* parent = anyParent();
+        Item* parent = random.bounded(4) == 0 ? model.root() : anyNode();
         if (!parent)
             parent = model.root();
         const int children = int(parent->children.size());
@@ -681,8 +361,6 @@ void tst_TreeModel::randomSequences_keepModelAndNodesSound()
         case 8:
             if (random.bounded(20) == 0)
                 model.reset();
-            else if (Item* item = anyNode())
-                QVERIFY(model.setData(model.createItemIndex(item), QString::number(made++), Qt::EditRole));
             break;
         }
         QVERIFY(!dump(model).contains('<'));
