@@ -150,6 +150,7 @@ void tst_Choice::choice_ownsItsClientData()
 void tst_Choice::combo_searchesThroughTheItem()
 {
     qwxComboBox& path = combo();
+    new QAbstractItemModelTester(&path.model(), QAbstractItemModelTester::FailureReportingMode::QtTest, &path.model());
     // Qt Quick Controls' exact match compares exactly, whatever the case flag.
     QCOMPARE(path.FindString("Alpha", false), 0);
     QCOMPARE(path.FindString("alpha", false), -1);

@@ -13,12 +13,9 @@
 #include <QTest>
 #include <QTimer>
 
-#include <wx/translation.h>
-
 #include <oa/OaApp.h>
 #include <qut/qtconversions.h>
 
-#include <cstdint>
 #include <memory>
 
 using namespace dbr;
@@ -65,54 +62,6 @@ public:
     mutable QList<wxWindow*> parents;
     mutable OdCmColor askedColor;
     mutable unsigned int askedOptions = 0;
-};
-
-// A German catalog in the .mo format, served from memory.
-class GermanLoader : public wxTranslationsLoader
-{
-public:
-    GermanLoader()
-    {
-        const std::vector<std::pair<std::string, std::string>> entries{
-            {"", "Content-Type: text/plain; charset=UTF-8\n"},
-            {"&OK", "&Gut"},
-            {"&Cancel", "&Abbrechen"},
-            {"Error", "Fehler"},
-        };
-        const auto put = [this](std::uint32_t value) { m_data.append(reinterpret_cast<const char*>(&value), 4); };
-        const auto count = std::uint32_t(entries.size());
-        const std::uint32_t tables = 28;
-        for (std::uint32_t value : {0x950412deu, 0u, count, tables, tables + 8 * count, 0u, 0u})
-            put(value);
-        std::string strings;
-        std::uint32_t stringsAt = tables + 16 * count;
-        for (bool translations : {false, true}) {
-            for (const auto& [original, translation] : entries) {
-                const std::string& text = translations ? translation : original;
-                put(std::uint32_t(text.size()));
-                put(stringsAt + std::uint32_t(strings.size()));
-                strings += text + '\0';
-            }
-        }
-        m_data += strings;
-    }
-
-    wxMsgCatalog* LoadCatalog(const wxString& domain, const wxString& lang) override
-    {
-        if (lang != wxS("de"))
-            return nullptr;
-        return wxMsgCatalog::CreateFromData(wxScopedCharBuffer::CreateNonOwned(m_data.data(), m_data.size()), domain);
-    }
-
-    wxArrayString GetAvailableTranslations(const wxString&) const override
-    {
-        wxArrayString languages;
-        languages.Add(wxS("de"));
-        return languages;
-    }
-
-private:
-    std::string m_data;
 };
 
 using MessageButtons = std::vector<MessageButtonInfo>;
@@ -177,7 +126,6 @@ class tst_DialogFactory : public QObject
 private Q_SLOTS:
     void buttonsFromButtonStyle_givesTheRowsOfTheStyle_data();
     void buttonsFromButtonStyle_givesTheRowsOfTheStyle();
-    void labels_areTranslatedAtEveryCall();
     void helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtraText_data();
     void helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtraText();
     void dlgColor_asksWithPlainRgbAndReturnsAnOpaqueColourOrNothing();
@@ -214,27 +162,6 @@ void tst_DialogFactory::buttonsFromButtonStyle_givesTheRowsOfTheStyle()
     QCOMPARE(describe(buttonsFromButtonStyle(static_cast<MessageButtonStyle>(style))), buttons);
 }
 
-void tst_DialogFactory::labels_areTranslatedAtEveryCall()
-{
-    RecordingFactory factory(m_engine);
-    oa::OaApp app(nullptr, &factory);
-    oa::OaApp::s_app = &app;
-    QCOMPARE(describe(buttonsFromButtonStyle(OkCancel)), QStringLiteral("&OK 4, &Cancel 16"));
-
-    auto* translations = new wxTranslations;
-    translations->SetLoader(new GermanLoader);
-    translations->SetLanguage(wxS("de"));
-    QVERIFY(translations->AddCatalog(wxS("dlgbridge")));
-    wxTranslations::Set(translations);
-    const QString german = describe(buttonsFromButtonStyle(OkCancel));
-    showErrorDialog(wxS("Disk full"));
-    wxTranslations::Set(nullptr);
-
-    QCOMPARE(german, QStringLiteral("&Gut 4, &Abbrechen 16"));
-    QCOMPARE(factory.boxes, QStringList{"Fehler|Disk full||3|&Gut 4"});
-    QCOMPARE(describe(buttonsFromButtonStyle(OkCancel)), QStringLiteral("&OK 4, &Cancel 16"));
-}
-
 void tst_DialogFactory::helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtraText_data()
 {
     QTest::addColumn<MessageCall>("call");
@@ -251,12 +178,6 @@ void tst_DialogFactory::helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtra
     QTest::newRow("error, defaults") << MessageCall([=](const IDialogFactory& factory, wxWindow*) {
         return answered(factory.showErrorMessage("T", "M"));
     }) << false << "T|M||3|&OK 4";
-    QTest::newRow("given buttons") << MessageCall([=](const IDialogFactory& factory, wxWindow* parent) {
-        return answered(factory.showMessage("T", "M", Warning, {{"&Retry", 32}, {"&Cancel", 16}}, parent));
-    }) << true << "T|M||1|&Retry 32, &Cancel 16";
-    QTest::newRow("button style") << MessageCall([=](const IDialogFactory& factory, wxWindow* parent) {
-        return answered(factory.showMessage("T", "M", Error, YesNoCancel, parent));
-    }) << true << "T|M||3|&Yes 2, &No 8, &Cancel 16";
     QTest::newRow("extra text, whole pair") << MessageCall([](const IDialogFactory& factory, wxWindow* parent) {
         return factory.showMessage("T", "M", "More", Info, OkCancel, parent);
     }) << true << "T|M|More|0|&OK 4, &Cancel 16";
@@ -341,12 +262,8 @@ void tst_DialogFactory::quickMessageBox_answersWithThePressedButton_data()
     QTest::addColumn<QString>("seen");
 
     const MessageButtons cancelFirst{{"&Cancel", 16}, {"&Retry", 32}};
-    QTest::newRow("OK") << buttonsFromButtonStyle(OkCancel) << "" << 0 << 4 << true << "Title|Message||&OK,&Cancel";
-    QTest::newRow("Cancel") << buttonsFromButtonStyle(OkCancel) << "" << 1 << 16 << true
-                            << "Title|Message||&OK,&Cancel";
     QTest::newRow("No, with details") << buttonsFromButtonStyle(YesNoCancel) << "Details" << 1 << 8 << true
                                       << "Title|Message|Details|&Yes,&No,&Cancel";
-    QTest::newRow("given buttons") << cancelFirst << "" << 1 << 32 << true << "Title|Message||&Cancel,&Retry";
     QTest::newRow("closed, Cancel's code") << cancelFirst << "" << -1 << 16 << false << "Title|Message||&Cancel,&Retry";
     QTest::newRow("closed, last button's code")
         << buttonsFromButtonStyle(YesNo) << "" << -1 << 8 << false << "Title|Message||&Yes,&No";
