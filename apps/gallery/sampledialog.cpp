@@ -11,6 +11,8 @@
 #include <dlgbridge/controls/qwxtimer.h>
 #include <dlgbridge/controls/qwxtogglebutton.h>
 #include <dlgbridge/core/qmlchildlist.h>
+#include <dlgbridge/core/qtcontrolmodels.h>
+#include <dlgbridge/services/idialogfactory.h>
 
 #include <qut/qtconversions.h>
 
@@ -54,7 +56,7 @@ void SampleDialog::doEventTableInit()
     children->connectToTextEvent("paper", [this](qwxCommandEvent& event) {
         seen.append(QStringLiteral("paper \"%1\"").arg(qut::toQt(event.GetString())));
     });
-    children->connectToDlgResult(wxIdApply, [this](qwxCommandEvent&) { seen.append(QStringLiteral("applied")); });
+    children->connectToDlgResult(wxIdApply, [this](qwxCommandEvent&) { onApply(); });
     children->connectToTimerEvent(*this, progressTimerId, [this](qwxTimerEvent& event) { onProgress(event); });
 }
 
@@ -85,6 +87,15 @@ void SampleDialog::onProgress(qwxTimerEvent&)
     m_timer->Stop();
     seen.append(QStringLiteral("preview finished"));
     control<qwxStaticText>("status")->SetLabel(wxString("Preview ready"));
+}
+
+void SampleDialog::onApply()
+{
+    const wxString summary = wxString::Format("%d copies on %s", control<qwxSpinCtrl>("copies")->GetValue(),
+                                              control<qwxChoice>("plotter")->GetStringSelection());
+    const int answer = models()->dialogFactory->showInfoMessage("Plot settings", qut::odFromQt(qut::toQt(summary)),
+                                                               nullptr, OkCancel);
+    seen.append(QStringLiteral("applied, info box answered %1").arg(answer));
 }
 
 bool SampleDialog::beforeOk()

@@ -35,6 +35,7 @@ public:
 private:
     void onCreateDialog(dbr::qwxInitDialogEvent& event) override;
     void onPreview();
+    void onApply();
     void onProgress(dbr::qwxTimerEvent& event);
 
     template<typename Control>

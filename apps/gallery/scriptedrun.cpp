@@ -2,7 +2,7 @@
 
 #include "sampledialog.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QDebug>
 #include <QMouseEvent>
 #include <QQuickItem>
@@ -33,6 +33,8 @@ ScriptedRun::ScriptedRun(SampleDialog& dialog, QString screenshotPath)
         [this] { setOn("style", "currentIndex", 1); },
         [this] { setOn("copies", "value", 3); },
         [this] { click("wxID_APPLY"); },
+        // Apply asks in a message box, whose own loop runs the next step.
+        [this] { clickInMessageBox(0); },
         [this] { saveScreenshot(); },
         [this] { click("wxID_OK"); },
     };
@@ -47,13 +49,49 @@ void ScriptedRun::next()
 {
     if (m_next == m_steps.size())
         return;
-    m_steps[m_next++]();
+    // Scheduled first: a step may block in a modal loop of its own, which runs the next one.
     QTimer::singleShot(stepIntervalMs, this, &ScriptedRun::next);
+    m_steps[m_next++]();
 }
 
 void ScriptedRun::click(const char* name)
 {
-    auto* item = m_dialog.root()->findChild<QQuickItem*>(QLatin1String(name));
+    clickItem(m_dialog.root()->findChild<QQuickItem*>(QLatin1String(name)), name);
+}
+
+namespace {
+
+// Items of a window are its visual tree, whatever their QObject parents.
+QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
+{
+    for (QQuickItem* child : root->childItems()) {
+        if (child->objectName() == name)
+            return child;
+        if (QQuickItem* found = findVisualItem(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void ScriptedRun::clickInMessageBox(int button)
+{
+    const QString name = QStringLiteral("messageButton%1").arg(button);
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        auto* quickWindow = qobject_cast<QQuickWindow*>(window);
+        if (!quickWindow || !quickWindow->isVisible())
+            continue;
+        if (QQuickItem* box = findVisualItem(quickWindow->contentItem(), QStringLiteral("MessageBox"))) {
+            clickItem(findVisualItem(box, name), qPrintable(name));
+            return;
+        }
+    }
+    qWarning() << "The script found no message box";
+}
+
+void ScriptedRun::clickItem(QQuickItem* item, const char* name)
+{
     if (!item || !item->window()) {
         qWarning() << "The script found no item" << name;
         return;
@@ -62,10 +100,10 @@ void ScriptedRun::click(const char* name)
     const QPoint global = item->window()->mapToGlobal(centre.toPoint());
     QMouseEvent press(QEvent::MouseButtonPress, centre, centre, global, Qt::LeftButton, Qt::LeftButton,
                       Qt::NoModifier);
-    QCoreApplication::sendEvent(item->window(), &press);
+    QGuiApplication::sendEvent(item->window(), &press);
     QMouseEvent release(QEvent::MouseButtonRelease, centre, centre, global, Qt::LeftButton, Qt::NoButton,
                         Qt::NoModifier);
-    QCoreApplication::sendEvent(item->window(), &release);
+    QGuiApplication::sendEvent(item->window(), &release);
 }
 
 void ScriptedRun::setOn(const char* name, const char* property, const QVariant& value)

@@ -8,12 +8,13 @@
 #include <functional>
 #include <vector>
 
+class QQuickItem;
 class QQuickItemGrabResult;
 class SampleDialog;
 
 // Plays a user through the sample dialog's real QML items while it runs
 // modally: preview, a refused OK, a check, a title, a plotter, a paper size,
-// more copies, Apply, a screenshot, OK.
+// more copies, Apply with its message box, a screenshot, OK.
 class ScriptedRun : public QObject
 {
     Q_OBJECT
@@ -28,6 +29,8 @@ public:
 private:
     void next();
     void click(const char* name);
+    void clickInMessageBox(int button);
+    void clickItem(QQuickItem* item, const char* name);
     void setOn(const char* name, const char* property, const QVariant& value);
     template<typename... Arguments>
     void invoke(const char* name, const char* method, Arguments... arguments);
