@@ -28,7 +28,6 @@ private Q_SLOTS:
     void init() { m_ui = std::make_unique<HostedQml>("controls.qml"); }
     void cleanup() { m_ui.reset(); }
 
-    void walk_customTypeWinsOverTheTable();
     void values_reachTheItemsPropertiesBothWays();
     void bitmaps_areWrittenAsImages();
     void gauge_keepsItsOwnRangeAndValue();
@@ -45,14 +44,6 @@ private:
 
     std::unique_ptr<HostedQml> m_ui;
 };
-
-void tst_SimpleControls::walk_customTypeWinsOverTheTable()
-{
-    m_ui->host.setCustomTypes({{QStringLiteral("Button"), factoryOf<TestControl>()}});
-    m_ui->host.populate();
-    QCOMPARE(m_ui->host.list().FindWindow("wxID_OK")->typeName(), TestControl::typeId());
-    QCOMPARE(m_ui->host.list().FindWindow("outline")->typeName(), qwxButton::typeId());
-}
 
 // Each wrapper writes and reads the property its kit component has.
 void tst_SimpleControls::values_reachTheItemsPropertiesBothWays()

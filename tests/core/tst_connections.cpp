@@ -18,14 +18,6 @@ using namespace dbr::test;
 
 namespace {
 
-// Stands in for the menu wrapper, under its name.
-class MenuControl : public TestControl
-{
-public:
-    using TestControl::TestControl;
-    QString typeName() const override { return QStringLiteral("qwxMenu"); }
-};
-
 using Connect = std::function<void(TestHost&, const EventHandler<qwxCommandEvent>&)>;
 
 } // namespace
@@ -42,7 +34,6 @@ private Q_SLOTS:
     void cleanup() { m_ui.reset(); }
 
     void click_reachesHandlersInOrderUntilReset();
-    void menuEvent_filtersByItemString();
     void refusals_logAndBindNothing_data();
     void refusals_logAndBindNothing();
     void emptyHandler_throwsOnlyWhenTheSignalArrives();
@@ -79,27 +70,6 @@ void tst_Connections::click_reachesHandlersInOrderUntilReset()
     list().resetCallbacks();
     clickItem(m_ui->item("wxID_OK"));
     QCOMPARE(heard.size(), 5);
-}
-
-void tst_Connections::menuEvent_filtersByItemString()
-{
-    for (const char* name : {"fileMenu", "editMenu"}) {
-        m_ui->qml.createChild(QByteArray("import QtQuick 2.15\nItem { objectName: \"") + name +
-                                  "\"; property string qmlType: \"WxConvMenu\"; signal menuItemTriggered(string item) }",
-                              *m_ui->host.root());
-    }
-    m_ui->host.setCustomTypes({{QStringLiteral("WxConvMenu"), factoryOf<MenuControl>()}});
-    m_ui->host.populate();
-
-    QStringList heard;
-    list().connectToMenuEvent("ID_COPY", [&](qwxCommandEvent& event) {
-        heard.append(qut::toQt(event.GetId()) + ' ' + qut::toQt(event.GetString()));
-    });
-
-    QVERIFY(QMetaObject::invokeMethod(m_ui->item("editMenu"), "menuItemTriggered", Q_ARG(QString, "ID_COPY")));
-    QVERIFY(QMetaObject::invokeMethod(m_ui->item("fileMenu"), "menuItemTriggered", Q_ARG(QString, "ID_OPEN")));
-    QVERIFY(QMetaObject::invokeMethod(m_ui->item("fileMenu"), "menuItemTriggered", Q_ARG(QString, "ID_COPY")));
-    QCOMPARE(heard, (QStringList{"editMenu ID_COPY", "fileMenu ID_COPY"}));
 }
 
 void tst_Connections::refusals_logAndBindNothing_data()

@@ -8,7 +8,6 @@
 #include "support/hostedqml.h"
 #include "support/logrecorder.h"
 #include "support/messages.h"
-#include "support/testvalidator.h"
 
 using namespace dbr;
 using namespace dbr::test;
@@ -35,7 +34,6 @@ private Q_SLOTS:
     void bridge_findsAnItemReplacedUnderTheSameRoot();
     void bridge_failsWithALogLineAndANeutralResult_data();
     void bridge_failsWithALogLineAndANeutralResult();
-    void transfers_reachEveryValidatedChildInKeyOrder();
     void qmlChildren_isTheHostsListThroughTheParentChain();
 
 private:
@@ -95,18 +93,6 @@ void tst_qwxWindow::bridge_failsWithALogLineAndANeutralResult()
     else
         QCOMPARE(wrapper.getQmlProperty(property.toStdString()), QVariant());
     QCOMPARE(log.lines(), warnings);
-}
-
-void tst_qwxWindow::transfers_reachEveryValidatedChildInKeyOrder()
-{
-    // Outlives the list's wrappers and their validators.
-    static ValidatorJournal journal;
-    for (const char* name : {"first", "deep"})
-        m_ui->host.FindWindow(name)->SetValidator(JournalValidator(journal));
-
-    m_ui->host.TransferDataToWindow();
-    m_ui->host.TransferDataFromWindow();
-    QCOMPARE(journal.transfers, (QStringList{"to:deep", "to:first", "from:deep", "from:first"}));
 }
 
 void tst_qwxWindow::qmlChildren_isTheHostsListThroughTheParentChain()

@@ -1,11 +1,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QQuickPaintedItem>
-#include <QQuickItem>
-#include <QSignalSpy>
 #include <QTest>
 
-#include "support/itemwindow.h"
 #include "support/qmlfixture.h"
 
 using namespace dbr::test;
@@ -20,7 +17,6 @@ private Q_SLOTS:
 
     void component_offersWhatItsWrapperUses_data();
     void component_offersWhatItsWrapperUses();
-    void toggleButton_aClickedSegmentBecomesCurrent();
     void image_showsTheImageItIsGiven_data();
     void image_showsTheImageItIsGiven();
 
@@ -73,21 +69,6 @@ void tst_ComponentKit::component_offersWhatItsWrapperUses()
         const QByteArray name = member.toLatin1();
         QVERIFY2((name.endsWith(')') ? meta->indexOfSignal(name) : meta->indexOfProperty(name)) >= 0, name);
     }
-}
-
-void tst_ComponentKit::toggleButton_aClickedSegmentBecomesCurrent()
-{
-    QObject* root =
-        load("Item { width: 300; height: 50; ToggleButton { objectName: \"mode\"; model: [\"A\", \"B\", \"C\"] } }");
-    QVERIFY(root);
-    auto* toggle = root->findChild<QQuickItem*>(QStringLiteral("mode"));
-    QSignalSpy changed(toggle, SIGNAL(currentIndexChanged()));
-    QVERIFY(changed.isValid());
-    ItemWindow window(root);
-    QCOMPARE(toggle->childItems().size(), 4); // three segments, then their repeater
-    clickItem(toggle->childItems().at(2));
-    QCOMPARE(toggle->property("currentIndex").toInt(), 2);
-    QCOMPARE(changed.count(), 1);
 }
 
 void tst_ComponentKit::image_showsTheImageItIsGiven_data()
