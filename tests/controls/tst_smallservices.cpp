@@ -46,7 +46,6 @@ struct Stubs
 {
     TestHost host;
     TestControl control{"first", host};
-    qwxSizer sizer;
     qwxSizerItem item;
     qwxTextDataObject text{"dragged"};
 };
@@ -62,7 +61,6 @@ class tst_SmallServices : public QObject
 
 private Q_SLOTS:
     void timer_ticksReachTheHandlersOfItsId();
-    void timer_withoutListTicksGoNowhere();
     void imageList_indexesItsImages();
     void placeholders_logAndAnswerNeutrally_data();
     void placeholders_logAndAnswerNeutrally();
@@ -84,30 +82,11 @@ void tst_SmallServices::timer_ticksReachTheHandlersOfItsId()
     qwxTimer eight(&list, 8);
     seven.Start(5);
     eight.Start(5);
-    QVERIFY(seven.IsRunning());
-    QTRY_VERIFY(heardBySeven.size() >= 2 && heardByAll.contains(8));
+    QTRY_VERIFY(heardBySeven.size() >= 2 && heardByAll.contains(7) && heardByAll.contains(8));
     seven.Stop();
     eight.Stop();
-    QVERIFY(!seven.IsRunning());
     for (const auto& tick : heardBySeven)
         QCOMPARE(tick, qMakePair(7, static_cast<qwxWindow*>(&owner)));
-    QVERIFY(heardByAll.contains(7));
-
-    // Once the connections are gone, a tick has nowhere to go.
-    list.resetCallbacks();
-    const int heard = heardByAll.size();
-    QTest::ignoreMessage(QtCriticalMsg, "No timer helper initialized 7");
-    list.onTimer(7);
-    QCOMPARE(heardByAll.size(), heard);
-}
-
-void tst_SmallServices::timer_withoutListTicksGoNowhere()
-{
-    QTest::ignoreMessage(QtCriticalMsg, "Invalid parent for qwx timer");
-    qwxTimer timer(static_cast<qwxWindow*>(nullptr), 7);
-    timer.Start(1);
-    QVERIFY(timer.IsRunning());
-    QTest::qWait(5);
 }
 
 void tst_SmallServices::imageList_indexesItsImages()
@@ -119,10 +98,6 @@ void tst_SmallServices::imageList_indexesItsImages()
     QCOMPARE(list.getImage(1).size(), QSize(3, 1));
     QCOMPARE(qRed(list.getImage(2).pixel(1, 1)), 30);
     QVERIFY(list.getImage(-1).isNull());
-    QVERIFY(list.getImage(3).isNull());
-
-    qwxImageList copy = list;
-    QCOMPARE(copy.Add(filledBitmap(40)), 3);
     QVERIFY(list.getImage(3).isNull());
 }
 
@@ -136,27 +111,13 @@ void tst_SmallServices::placeholders_logAndAnswerNeutrally_data()
         QTest::newRow(name) << int(type) << QStringList{message} << call;
     };
     row("window GetSizer", "qwxWindow::GetSizer : stub", [](Stubs& s) { QVERIFY(!s.control.GetSizer()); });
-    row("GetContainingSizer", "qwxControl::GetContainingSizer : stub",
-        [](Stubs& s) { QVERIFY(!s.control.GetContainingSizer()); });
     row("PushEventHandler frees the handler", "qwxWindow::PushEventHandler : stub", [](Stubs& s) {
         bool destroyed = false;
         s.host.PushEventHandler(new Flagging<IEventHandler>(destroyed));
         QVERIFY(destroyed);
     });
-    row("PopEventHandler", "PopEventHandler : stub", [](Stubs& s) { s.control.PopEventHandler(true); });
-    row("GetWindowStyle", "qwxWindow::GetWindowStyle : stub", [](Stubs& s) { QCOMPARE(s.control.GetWindowStyle(), 0L); });
-    row("SetWindowStyle", "qwxWindow::SetWindowStyle : stub", [](Stubs& s) { s.control.SetWindowStyle(0x40); });
-    row("ScreenToClient", "qwxWindow::ScreenToClient : stub",
-        [](Stubs& s) { QCOMPARE(s.control.ScreenToClient(wxPoint(5, 7)), wxPoint(0, 0)); });
-    row("Insert", "qwxSizer::Insert : stub", [](Stubs& s) { QCOMPARE(s.sizer.Insert(0, &s.host), nullptr); });
-    row("GetItem", "qwxSizer::GetItem : stub", [](Stubs& s) { QCOMPARE(s.sizer.GetItem(0), nullptr); });
-    row("SetSizeHints", "qwxSizer::SetSizeHints : stub", [](Stubs& s) { s.sizer.SetSizeHints(&s.host); });
-    row("Layout", "qwxSizer::Layout : stub", [](Stubs& s) { s.sizer.Layout(); });
     row("item GetSize names the sizer", "qwxSizer::GetSize : stub",
         [](Stubs& s) { QCOMPARE(s.item.GetSize(), wxSize(0, 0)); });
-    row("item GetSizer", "qwxSizer::GetSizer : stub", [](Stubs& s) { QCOMPARE(s.item.GetSizer(), nullptr); });
-    row("drop source", "qwxDropSource::qwxDropSource: stub + ownership?",
-        [](Stubs& s) { qwxDropSource(s.text, s.host); });
     QTest::newRow("DoDragDrop") << int(QtDebugMsg)
                                 << QStringList{"qwxDropSource::qwxDropSource: stub + ownership?",
                                                "qwxDropSource::DoDragDrop: stub"}
@@ -165,9 +126,6 @@ void tst_SmallServices::placeholders_logAndAnswerNeutrally_data()
         bool destroyed = false;
         qwxDropTarget().SetDataObject(new Flagging<qwxDataObject>(destroyed));
         QVERIFY(destroyed);
-    });
-    row("getMenuId", "qwxCommandEvent::getMenuId: stub", [](Stubs& s) {
-        QCOMPARE(qwxCommandEvent(&s.control, 3, nullptr).getMenuId(), 0);
     });
     row("Validate", "IValidator::Validate: needs implementations", [](Stubs& s) {
         ValidatorJournal journal;

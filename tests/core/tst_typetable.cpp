@@ -1,7 +1,6 @@
 #include <dlgbridge/core/qmlchildlist.h>
 #include <dlgbridge/core/typetable.h>
 
-#include <QLoggingCategory>
 #include <QQuickItem>
 #include <QTest>
 
@@ -17,16 +16,6 @@ namespace {
 
 const QString genericWarning = QStringLiteral(
     "Component \"%1\" ( \"%2\" ) must have a 'qmlType' property to allow creating the correct backend component");
-
-// Makes TestControls and notes the order in which the walk asked for them.
-WrapperFactory recordingFactory(QStringList& created)
-{
-    return [&created](const OdString& name, qwxWindow& parent) {
-        auto wrapper = std::make_unique<TestControl>(name, parent);
-        created.append(wrapper->wrappedObjectName());
-        return wrapper;
-    };
-}
 
 // A wrapper that brings types of its own: "Field" (which the host has
 // registered already) and "Late".
@@ -63,13 +52,11 @@ class tst_TypeTable : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("arvela.qt.dlgconv.init.types.debug=true")); }
     void init() { m_qml = std::make_unique<QmlFixture>(); }
     void cleanup() { m_qml.reset(); }
 
     void typeDecision_data();
     void typeDecision();
-    void walk_visitsDepthFirstFromTheLastChildAndLogsEachRefusal();
     void walk_skipsWhatControlsMakeForThemselves();
     void customTypes_firstRegistrationWinsAndLastsOneWalk();
 
@@ -80,87 +67,33 @@ private:
 void tst_TypeTable::typeDecision_data()
 {
     QTest::addColumn<QByteArray>("qml");
-    QTest::addColumn<QString>("rawType");
     QTest::addColumn<QString>("type");
     QTest::addColumn<QStringList>("warnings");
 
-    const auto row = [](const char* name, const QByteArray& qml, const char* rawType, const char* type,
-                        const QStringList& warnings = {}) {
-        QTest::newRow(name) << "import QtQuick 2.15\nimport QtQuick.Layouts 1.15\n" + qml << rawType << type << warnings;
+    const auto row = [](const char* name, const QByteArray& qml, const char* type, const QStringList& warnings = {}) {
+        QTest::newRow(name) << "import QtQuick 2.15\nimport QtQuick.Layouts 1.15\n" + qml << type << warnings;
     };
-    row("qmlType wins over the file name", "Field { property string qmlType: \"Button\" }", "Button", "Button");
-    row("type from the file name", "Field {}", "Field", "Field");
-    row("non-string qmlType is ignored", "Field { property int qmlType: 3 }", "Field", "Field");
-    row("empty qmlType string", "Field { property string qmlType }", "", "");
-    row("plain Qt Quick class", "Rectangle {}", "QQuickRectangle", "QQuickRectangle");
-    row("class outside Qt Quick", "QtObject { objectName: \"x\" }", "", "");
-    row("generic item must say what it is", "Item { objectName: \"box\" }", "QQuickItem", "",
+    row("qmlType wins over the file name", "Field { property string qmlType: \"Button\" }", "Button");
+    row("non-string qmlType is ignored", "Field { property int qmlType: 3 }", "Field");
+    row("plain Qt Quick class", "Rectangle {}", "QQuickRectangle");
+    row("generic item must say what it is", "Item { objectName: \"box\" }", "",
         {genericWarning.arg("box", "QQuickItem")});
-    row("generic item named wxID_ANY is quiet", "Item { objectName: \"wxID_ANY\" }", "QQuickItem", "");
-    row("generic layout named PANEL_ is a pane", "RowLayout { objectName: \"PANEL_left\" }", "QQuickRowLayout", "Pane");
-    row("PANEL_ is case-sensitive", "ColumnLayout { objectName: \"panel_left\" }", "QQuickColumnLayout", "",
-        {genericWarning.arg("panel_left", "QQuickColumnLayout")});
-    row("qmlType makes a generic item specific", "Item { objectName: \"box\"; property string qmlType: \"Label\" }",
-        "Label", "Label");
+    row("generic item named wxID_ANY is quiet", "Item { objectName: \"wxID_ANY\" }", "");
+    row("generic layout named PANEL_ is a pane", "RowLayout { objectName: \"PANEL_left\" }", "Pane");
 }
 
 void tst_TypeTable::typeDecision()
 {
     QFETCH(QByteArray, qml);
-    QFETCH(QString, rawType);
     QFETCH(QString, type);
     QFETCH(QStringList, warnings);
 
     QObject* object = m_qml->loadData(qml);
     QVERIFY(object);
-    QCOMPARE(rawQmlType(object), rawType);
-
     LogRecorder log;
     expectMessages(QtWarningMsg, warnings);
     QCOMPARE(qmlTypeOf(object), type);
     QCOMPARE(log.lines(), warnings);
-}
-
-void tst_TypeTable::walk_visitsDepthFirstFromTheLastChildAndLogsEachRefusal()
-{
-    QStringList created;
-    TestHost host(m_qml->loadFile(QStringLiteral("walk.qml")));
-    host.setCustomTypes(
-        {{QStringLiteral("Field"), recordingFactory(created)}, {QStringLiteral("Pane"), recordingFactory(created)}});
-
-    const QString field = QStringLiteral("Creating object of custom type \"Field\"");
-    const QVector<QPair<QtMsgType, QString>> expected{
-        {QtDebugMsg, "Did not find backend component for \"rect\" with qml type: \"QQuickRectangle\""},
-        {QtWarningMsg, "(menu) 'Menu' is unsupported, use WxConvMenu instead"},
-        {QtDebugMsg, field},
-        {QtWarningMsg, genericWarning.arg("box", "QQuickItem")},
-        {QtWarningMsg, "Unable to get qml type of \"box\" ( QQuickItem )"},
-        {QtDebugMsg, field},
-        {QtDebugMsg, field},
-        {QtDebugMsg, "Creating object of custom type \"Pane\""},
-        {QtDebugMsg, field},
-        {QtDebugMsg, field},
-        {QtDebugMsg, field},
-        {QtDebugMsg, field},
-        {QtDebugMsg, "Created 7 objects"},
-    };
-    QStringList expectedLog;
-    for (const auto& message : expected) {
-        QTest::ignoreMessage(message.first, qPrintable(message.second));
-        expectedLog.append(message.second);
-    }
-    LogRecorder log;
-    host.populate();
-    QCOMPARE(log.lines(), expectedLog);
-
-    QCOMPARE(created, (QStringList{"f", "e", "d", "PANEL_left", "c", "b", "a", "a"}));
-    const auto& children = host.list().children();
-    QCOMPARE(keysOf(children), (QStringList{"PANEL_left", "a", "b", "c", "d", "e", "f"}));
-    QCOMPARE(children.at("a").size(), size_t(2));
-    for (const auto& entry : children) {
-        for (const auto& wrapper : entry.second)
-            QCOMPARE(wrapper->GetParent(), &host);
-    }
 }
 
 void tst_TypeTable::walk_skipsWhatControlsMakeForThemselves()

@@ -3,8 +3,6 @@
 
 #include <QTest>
 
-#include <utility>
-
 using namespace dbr;
 
 namespace {
@@ -40,7 +38,6 @@ class tst_PanelListeners : public QObject
 
 private Q_SLOTS:
     void listeners_areCalledOncePerUrlInRegistrationOrder();
-    void copies_shareListenersAndMovesEmpty();
 };
 
 void tst_PanelListeners::listeners_areCalledOncePerUrlInRegistrationOrder()
@@ -66,26 +63,6 @@ void tst_PanelListeners::listeners_areCalledOncePerUrlInRegistrationOrder()
     handler.removePanelListener(&second, sheets);
     handler.activatePanel(true, layers);
     QCOMPARE(log, QStringList({"second activate 1", "third activate 1"}));
-}
-
-void tst_PanelListeners::copies_shareListenersAndMovesEmpty()
-{
-    QStringList log;
-    RecordingListener listener("l", log);
-    PanelListenerHandler original;
-    original.addPanelListener(&listener, layers);
-
-    PanelListenerHandler copy = original;
-    copy.activatePanel(true, layers);
-    original.activatePanel(false, layers);
-    PanelListenerHandler moved = std::move(original);
-    PanelListenerHandler assigned;
-    assigned = std::move(copy);
-    original.activatePanel(true, layers);
-    copy.activatePanel(true, layers);
-    moved.activatePanel(true, layers);
-    assigned.activatePanel(false, layers);
-    QCOMPARE(log, QStringList({"l activate 1", "l activate 0", "l activate 1", "l activate 0"}));
 }
 
 QTEST_MAIN(tst_PanelListeners)

@@ -5,7 +5,6 @@
 #include <dst/OdSmSheet.h>
 #include <oa/OaApp.h>
 #include <oa/PanelManager.h>
-#include <qut/qtconversions.h>
 
 #include <memory>
 
@@ -42,27 +41,19 @@ void tst_SheetSetPanel::cleanup()
 void tst_SheetSetPanel::lookup_findsThePanelBehindOthers_data()
 {
     QTest::addColumn<bool>("hasApp");
-    QTest::addColumn<bool>("hasManager");
-    QTest::addColumn<QString>("panelName");
     // "o" for another object, "s" for the sheet set panel, "0" for null.
     QTest::addColumn<QString>("objects");
     QTest::addColumn<int>("found");
 
-    QTest::newRow("no application") << false << true << "SHEETSETS" << "s" << -1;
-    QTest::newRow("no panel manager") << true << false << "SHEETSETS" << "s" << -1;
-    QTest::newRow("panel not known") << true << true << "LAYERS" << "s" << -1;
-    QTest::newRow("empty panel") << true << true << "SHEETSETS" << "" << -1;
-    QTest::newRow("only other objects") << true << true << "SHEETSETS" << "o0o" << -1;
-    QTest::newRow("first") << true << true << "SHEETSETS" << "so" << 0;
-    QTest::newRow("behind others") << true << true << "SHEETSETS" << "o0os" << 3;
-    QTest::newRow("the first of two") << true << true << "SHEETSETS" << "oss" << 1;
+    QTest::newRow("no application") << false << "s" << -1;
+    QTest::newRow("only other objects") << true << "o0o" << -1;
+    QTest::newRow("behind others") << true << "o0os" << 3;
+    QTest::newRow("the first of two") << true << "oss" << 1;
 }
 
 void tst_SheetSetPanel::lookup_findsThePanelBehindOthers()
 {
     QFETCH(bool, hasApp);
-    QFETCH(bool, hasManager);
-    QFETCH(QString, panelName);
     QFETCH(QString, objects);
     QFETCH(int, found);
 
@@ -70,7 +61,7 @@ void tst_SheetSetPanel::lookup_findsThePanelBehindOthers()
     oa::PanelManager manager;
     std::vector<std::unique_ptr<QObject>> owned;
     std::vector<QObject*> listed;
-    oa::PanelContainer& container = manager.addPanel(qut::odFromQt(panelName));
+    oa::PanelContainer& container = manager.addPanel(OdString("SHEETSETS"));
     for (QChar kind : objects) {
         if (kind == 's')
             owned.push_back(std::make_unique<SheetSetPanel>());
@@ -80,8 +71,7 @@ void tst_SheetSetPanel::lookup_findsThePanelBehindOthers()
         container.addObject(object);
         listed.push_back(object);
     }
-    if (hasManager)
-        app.setPanelManager(&manager);
+    app.setPanelManager(&manager);
     if (hasApp)
         oa::OaApp::s_app = &app;
 
