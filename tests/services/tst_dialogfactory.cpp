@@ -5,8 +5,6 @@
 
 #include <quickhost/quickhost.h>
 
-#include <QApplication>
-#include <QInputDialog>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -134,8 +132,6 @@ private Q_SLOTS:
     void quickMessageBox_answersWithThePressedButton_data();
     void quickMessageBox_answersWithThePressedButton();
     void quickFaker_answersEveryBoxWithoutShowingUntilUnset();
-    void getTextFromUser_asksInAModalInputDialog_data();
-    void getTextFromUser_asksInAModalInputDialog();
 
 private:
     QQmlEngine m_engine;
@@ -313,35 +309,6 @@ void tst_DialogFactory::quickFaker_answersEveryBoxWithoutShowingUntilUnset()
     QCOMPARE(host.dialogFactory().showInfoMessage("Done", "Saved"), 4);
     QCOMPARE(shown, QStringLiteral("Done|Saved||&OK"));
     QCOMPARE(asked.size(), 2);
-}
-
-void tst_DialogFactory::getTextFromUser_asksInAModalInputDialog_data()
-{
-    QTest::addColumn<bool>("accept");
-    QTest::addColumn<QString>("result");
-
-    QTest::newRow("accepted") << true << "typed";
-    QTest::newRow("cancelled") << false << "";
-}
-
-void tst_DialogFactory::getTextFromUser_asksInAModalInputDialog()
-{
-    QFETCH(bool, accept);
-    QFETCH(QString, result);
-
-    QString seen;
-    QTimer::singleShot(0, [&seen, accept] {
-        auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        seen = dialog->windowTitle() + QLatin1Char('|') + dialog->labelText() + QLatin1Char('|') + dialog->textValue();
-        dialog->setTextValue(QStringLiteral("typed"));
-        accept ? dialog->accept() : dialog->reject();
-    });
-    QTest::ignoreMessage(QtDebugMsg, "qwxGetTextFromUser: needs qml implementation");
-
-    QCOMPARE(qut::toQt(qwxGetTextFromUser(wxS("Name:"), wxS("New layer"))), result);
-    QCOMPARE(seen, QStringLiteral("New layer|Name:|"));
 }
 
 QTEST_MAIN(tst_DialogFactory)
