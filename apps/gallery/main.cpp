@@ -14,11 +14,11 @@
 #include <QTextStream>
 #include <QUrl>
 
+#include <wx/defs.h>
+
 #include <cstdio>
 
 namespace {
-
-constexpr int wxIdOk = 5100;
 
 bool hasDisplay()
 {
@@ -73,8 +73,8 @@ int main(int argc, char** argv)
     out << "Title: " << qut::toQt(dialog.title) << ", plotter: " << qut::toQt(dialog.plotterPath)
         << ", paper: " << qut::toQt(dialog.paper) << '\n';
     out << "Copies: " << dialog.copies << ", layout checked: " << (dialog.checked ? "yes" : "no") << '\n';
-    out << "ShowModal returned " << code << (code == wxIdOk ? " (wxID_OK)" : "") << '\n';
+    out << "ShowModal returned " << code << (code == wxID_OK ? " (wxID_OK)" : "") << '\n';
     if (scripted && script.screenshotSaved())
         out << "Screenshot: " << parser.value(QStringLiteral("screenshot")) << '\n';
-    return scripted && (code != wxIdOk || !script.screenshotSaved()) ? 1 : 0;
+    return scripted && (code != wxID_OK || !script.screenshotSaved()) ? 1 : 0;
 }

@@ -18,7 +18,6 @@
 
 namespace {
 constexpr int progressTimerId = 1;
-constexpr int wxIdApply = 5102;
 } // namespace
 
 using namespace dbr;
@@ -56,7 +55,7 @@ void SampleDialog::doEventTableInit()
     children->connectToTextEvent("paper", [this](qwxCommandEvent& event) {
         seen.append(QStringLiteral("paper \"%1\"").arg(qut::toQt(event.GetString())));
     });
-    children->connectToDlgResult(wxIdApply, [this](qwxCommandEvent&) { onApply(); });
+    children->connectToDlgResult(wxID_APPLY, [this](qwxCommandEvent&) { onApply(); });
     children->connectToTimerEvent(*this, progressTimerId, [this](qwxTimerEvent& event) { onProgress(event); });
 }
 

@@ -8,12 +8,9 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-namespace dbr::quickhost {
+#include <wx/defs.h>
 
-namespace {
-constexpr int wxIdOk = 5100;
-constexpr int wxIdCancel = 5101;
-} // namespace
+namespace dbr::quickhost {
 
 class QuickDialogPrivate
 {
@@ -139,12 +136,12 @@ void QuickDialog::reload()
 
 void QuickDialog::onAccepted()
 {
-    requestEnd(wxIdOk);
+    requestEnd(wxID_OK);
 }
 
 void QuickDialog::onRejected()
 {
-    requestEnd(wxIdCancel);
+    requestEnd(wxID_CANCEL);
 }
 
 void QuickDialog::connectRoot()

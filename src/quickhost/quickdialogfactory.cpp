@@ -7,6 +7,8 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include <wx/defs.h>
+
 #include <qut/qtconversions.h>
 
 #include <algorithm>
@@ -14,8 +16,6 @@
 namespace dbr::quickhost {
 
 namespace {
-
-constexpr int wxCancelCode = 16;
 
 wxString toWx(const OdString& text)
 {
@@ -26,8 +26,8 @@ wxString toWx(const OdString& text)
 int closeCode(const std::vector<MessageButtonInfo>& buttons)
 {
     const bool hasCancel = std::any_of(buttons.begin(), buttons.end(),
-                                       [](const MessageButtonInfo& button) { return button.code == wxCancelCode; });
-    return hasCancel ? wxCancelCode : buttons.back().code;
+                                       [](const MessageButtonInfo& button) { return button.code == wxCANCEL; });
+    return hasCancel ? wxCANCEL : buttons.back().code;
 }
 
 // One message box on screen and the loop that waits for its answer.

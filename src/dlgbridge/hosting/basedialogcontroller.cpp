@@ -1,11 +1,8 @@
 #include "basedialogcontroller.h"
 
-namespace dbr {
+#include <wx/defs.h>
 
-namespace {
-constexpr int wxIdOk = 5100;
-constexpr int wxIdCancel = 5101;
-} // namespace
+namespace dbr {
 
 BaseDialogController::BaseDialogController() = default;
 BaseDialogController::~BaseDialogController() = default;
@@ -20,8 +17,8 @@ void BaseDialogController::afterReset() {}
 bool BaseDialogController::beforeEndModal(int returnCode)
 {
     switch (returnCode) {
-    case wxIdOk: return beforeOk();
-    case wxIdCancel: return beforeCancel();
+    case wxID_OK: return beforeOk();
+    case wxID_CANCEL: return beforeCancel();
     }
     return true;
 }

@@ -13,14 +13,14 @@
 #include <QQuickItem>
 #include <QTimer>
 
+#include <wx/defs.h>
+
 #include <oa/OaApp.h>
 #include <qut/qtconversions.h>
 
 namespace dbr {
 
 namespace {
-
-constexpr int wxIdCancel = 5101;
 
 // The internal dialog of a qwxDialog built around QML that exists already:
 // there is no window to run, so it answers neutrally.
@@ -209,7 +209,7 @@ int qwxDialog::ShowModal()
 {
     if (!d->internalDialog) {
         qCritical("Unable to show modal dialog: internal dialog not found");
-        return wxIdCancel;
+        return wxID_CANCEL;
     }
     loadContent();
     return d->internalDialog->ShowModal();
