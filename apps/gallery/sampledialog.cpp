@@ -2,7 +2,7 @@
 
 #include <dlgbridge/controls/qwxcheckbox.h>
 #include <dlgbridge/controls/qwxchoice.h>
-#include <dlgbridge/controls/qwxclientdata.h>
+#include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
 #include <dlgbridge/controls/qwxspinctrl.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <dlgbridge/hosting/iwxqtdialog.h>
+#include <dlgbridge/services/iwxqtdialog.h>
 
 #include <QObject>
 

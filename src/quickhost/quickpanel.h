@@ -1,6 +1,6 @@
 #pragma once
 
-#include <dlgbridge/hosting/iwxqtpanel.h>
+#include <dlgbridge/services/iwxqtpanel.h>
 
 #include <QObject>
 #include <QUrl>

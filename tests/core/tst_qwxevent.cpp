@@ -1,4 +1,4 @@
-#include <dlgbridge/controls/qwxclientdata.h>
+#include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/core/qwxevent.h>
 
 #include <QTest>

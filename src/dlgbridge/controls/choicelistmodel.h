@@ -1,6 +1,6 @@
 #pragma once
 
-#include <dlgbridge/controls/qwxclientdata.h>
+#include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/dlgbridge_export.h>
 
 #include <QString>

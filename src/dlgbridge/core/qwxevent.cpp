@@ -2,7 +2,7 @@
 
 #include "qwxwindow.h"
 
-#include <dlgbridge/controls/qwxclientdata.h>
+#include <dlgbridge/core/qwxclientdata.h>
 
 #include <QDebug>
 

@@ -68,8 +68,6 @@ QtControlModels applicationModels()
 
 } // namespace
 
-IWxQtDialog::~IWxQtDialog() = default;
-
 class qwxDialogPrivate
 {
 public:

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <dlgbridge/core/qwxwindow.h>
-#include <dlgbridge/hosting/iwxqtdialog.h>
+#include <dlgbridge/services/iwxqtdialog.h>
 #include <dlgbridge/hosting/qwxdialogcontroller.h>
 
 #include <QObject>

@@ -1,12 +1,9 @@
 #include "qwxexistingpanel.h"
 
-#include "iwxqtpanel.h"
-
 #include <dlgbridge/core/qmlchildlist.h>
+#include <dlgbridge/services/iwxqtpanel.h>
 
 namespace dbr {
-
-IWxQtPanel::~IWxQtPanel() = default;
 
 class qwxExistingPanelPrivate
 {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <dlgbridge/dlgbridge_export.h>
-#include <dlgbridge/hosting/iwxqtdialog.h>
+#include <dlgbridge/services/iwxqtdialog.h>
 
 #include <wx/colour.h>
 #include <wx/string.h>

@@ -1,0 +1,7 @@
+#include "iwxqtdialog.h"
+
+namespace dbr {
+
+IWxQtDialog::~IWxQtDialog() = default;
+
+} // namespace dbr

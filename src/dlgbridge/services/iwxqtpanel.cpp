@@ -1,0 +1,7 @@
+#include "iwxqtpanel.h"
+
+namespace dbr {
+
+IWxQtPanel::~IWxQtPanel() = default;
+
+} // namespace dbr
