@@ -44,8 +44,7 @@ class OtherControl : public qwxControl
 {
 public:
     using qwxControl::qwxControl;
-    static QString typeId() { return QStringLiteral("OtherControl"); }
-    QString typeName() const override { return typeId(); }
+    DBR_WRAPPER_TYPE(OtherControl)
 };
 
 } // namespace

@@ -18,8 +18,7 @@ public:
         , m_list(*this)
     {}
 
-    static QString typeId() { return QStringLiteral("TestHost"); }
-    QString typeName() const override { return typeId(); }
+    DBR_WRAPPER_TYPE(TestHost)
     QString wrappedObjectName() const override { return m_name; }
     QObject* root() const override { return m_root; }
     const QmlChildList* qmlChildren(UseParentListIfNone) const override { return &m_list; }
@@ -49,8 +48,7 @@ class TestControl : public qwxControl
 public:
     using qwxControl::qwxControl;
 
-    static QString typeId() { return QStringLiteral("TestControl"); }
-    QString typeName() const override { return typeId(); }
+    DBR_WRAPPER_TYPE(TestControl)
 };
 
 // A factory for the given wrapper class, as registerCustomTypes returns them.

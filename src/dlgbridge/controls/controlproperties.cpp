@@ -2,9 +2,7 @@
 
 #include <dlgbridge/core/qwxwindow.h>
 
-#include <QAbstractItemModel>
 #include <QImage>
-#include <QStringList>
 
 #include <qut/qtconversions.h>
 
@@ -33,17 +31,6 @@ void setChecked(qwxWindow& control, bool checked)
 bool isChecked(const qwxWindow& control)
 {
     return control.getQmlProperty("checked").toBool();
-}
-
-std::vector<QString> modelStrings(const qwxWindow& control)
-{
-    const QStringList strings = control.getQmlProperty("model").toStringList();
-    return std::vector<QString>(strings.begin(), strings.end());
-}
-
-void setModel(qwxWindow& control, QAbstractItemModel* model)
-{
-    control.setQmlProperty("model", QVariant::fromValue(static_cast<QObject*>(model)));
 }
 
 void setCurrentIndex(qwxWindow& control, int index)

@@ -5,9 +5,6 @@
 #include <wx/bitmap.h>
 #include <wx/string.h>
 
-#include <vector>
-
-class QAbstractItemModel;
 
 namespace dbr {
 
@@ -25,9 +22,6 @@ void setBitmap(qwxWindow& control, const wxBitmap& bitmap);
 // "checked"
 void setChecked(qwxWindow& control, bool checked);
 bool isChecked(const qwxWindow& control);
-// "model": the entries written in the QML file, and the model that replaces them.
-std::vector<QString> modelStrings(const qwxWindow& control);
-void setModel(qwxWindow& control, QAbstractItemModel* model);
 // "currentIndex"
 void setCurrentIndex(qwxWindow& control, int index);
 int currentIndex(const qwxWindow& control);

@@ -8,16 +8,6 @@ qwxBitmapButton::qwxBitmapButton(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
 {}
 
-QString qwxBitmapButton::typeId()
-{
-    return QStringLiteral("qwxBitmapButton");
-}
-
-QString qwxBitmapButton::typeName() const
-{
-    return typeId();
-}
-
 void qwxBitmapButton::setBitmap(const wxBitmap& bitmap)
 {
     controlproperties::setBitmap(*this, bitmap);

@@ -12,8 +12,7 @@ class DLGBRIDGE_EXPORT qwxBitmapButton : public qwxControl
 public:
     qwxBitmapButton(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxBitmapButton)
 
     void setBitmap(const wxBitmap& bitmap);
 };

@@ -12,8 +12,7 @@ class DLGBRIDGE_EXPORT qwxButton : public qwxControl
 public:
     qwxButton(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxButton)
 
     void SetLabel(const wxString& label);
 };

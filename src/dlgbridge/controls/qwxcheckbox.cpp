@@ -8,16 +8,6 @@ qwxCheckBox::qwxCheckBox(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
 {}
 
-QString qwxCheckBox::typeId()
-{
-    return QStringLiteral("qwxCheckBox");
-}
-
-QString qwxCheckBox::typeName() const
-{
-    return typeId();
-}
-
 void qwxCheckBox::SetValue(bool checked)
 {
     controlproperties::setChecked(*this, checked);

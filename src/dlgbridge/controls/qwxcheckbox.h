@@ -10,8 +10,7 @@ class DLGBRIDGE_EXPORT qwxCheckBox : public qwxControl
 public:
     qwxCheckBox(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxCheckBox)
 
     void SetValue(bool checked);
     bool GetValue() const;

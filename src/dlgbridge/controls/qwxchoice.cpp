@@ -2,6 +2,9 @@
 
 #include "choicelistmodel.h"
 #include "controlproperties_p.h"
+#include "modelonitem_p.h"
+
+#include <QStringList>
 
 #include <qut/qtconversions.h>
 
@@ -23,34 +26,33 @@ std::vector<ChoiceData> choiceRows(const wxArrayString& texts)
     return rows;
 }
 
-std::unique_ptr<ChoiceListModel> modelOf(const qwxWindow& control)
+std::unique_ptr<ChoiceListModel> modelOf(const QStringList& declared)
 {
     std::vector<ChoiceData> rows;
-    for (QString& text : controlproperties::modelStrings(control))
-        rows.push_back(ChoiceData{std::move(text), nullptr});
+    rows.reserve(size_t(declared.size()));
+    for (const QString& text : declared)
+        rows.push_back(ChoiceData{text, nullptr});
     return std::make_unique<ChoiceListModel>(std::move(rows));
 }
 
 } // namespace
 
+class qwxChoicePrivate
+{
+public:
+    explicit qwxChoicePrivate(qwxWindow& control)
+        : model(control, &modelOf)
+    {}
+
+    ModelOnItem<ChoiceListModel> model;
+};
+
 qwxChoice::qwxChoice(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
-    , m_model(modelOf(*this))
-{
-    controlproperties::setModel(*this, m_model.get());
-}
+    , d(std::make_unique<qwxChoicePrivate>(*this))
+{}
 
 qwxChoice::~qwxChoice() = default;
-
-QString qwxChoice::typeId()
-{
-    return QStringLiteral("qwxChoice");
-}
-
-QString qwxChoice::typeName() const
-{
-    return typeId();
-}
 
 void qwxChoice::Select(int index)
 {
@@ -64,7 +66,7 @@ int qwxChoice::GetSelection() const
 
 wxString qwxChoice::GetStringSelection() const
 {
-    const ChoiceData* row = m_model->row(GetSelection());
+    const ChoiceData* row = d->model->row(GetSelection());
     return row ? qut::wxFromQt(row->text) : wxString();
 }
 
@@ -75,14 +77,14 @@ void qwxChoice::SetSelection(int index)
 
 void qwxChoice::SetString(int index, const wxString& text)
 {
-    m_model->setText(index, qut::toQt(text));
+    d->model->setText(index, qut::toQt(text));
 }
 
 int qwxChoice::FindString(const wxString& text) const
 {
     const QString wanted = qut::toQt(text);
-    for (int index = 0; index < m_model->rowCount(); ++index) {
-        if (m_model->row(index)->text == wanted)
+    for (int index = 0; index < d->model->rowCount(); ++index) {
+        if (d->model->row(index)->text == wanted)
             return index;
     }
     return -1;
@@ -90,7 +92,7 @@ int qwxChoice::FindString(const wxString& text) const
 
 void qwxChoice::Clear()
 {
-    m_model->clear();
+    d->model->clear();
 }
 
 void qwxChoice::Append(const wxArrayString& texts)
@@ -101,7 +103,7 @@ void qwxChoice::Append(const wxArrayString& texts)
 
 void qwxChoice::Append(const wxString& text)
 {
-    m_model->append(choiceRow(text));
+    d->model->append(choiceRow(text));
 }
 
 void qwxChoice::AppendString(const wxString& text)
@@ -111,22 +113,22 @@ void qwxChoice::AppendString(const wxString& text)
 
 void qwxChoice::Insert(int index, const wxArrayString& texts)
 {
-    m_model->insert(index, choiceRows(texts));
+    d->model->insert(index, choiceRows(texts));
 }
 
 void qwxChoice::Insert(int index, const wxString& text)
 {
-    m_model->insert(index, choiceRow(text));
+    d->model->insert(index, choiceRow(text));
 }
 
 int qwxChoice::GetCount() const
 {
-    return m_model->rowCount();
+    return d->model->rowCount();
 }
 
 void qwxChoice::Delete(int index)
 {
-    m_model->remove(index);
+    d->model->remove(index);
 }
 
 void qwxChoice::InsertString(int index, const wxString& text)
@@ -142,14 +144,14 @@ wxString qwxChoice::GetValue() const
 wxArrayString qwxChoice::GetStrings() const
 {
     wxArrayString texts;
-    for (int index = 0; index < m_model->rowCount(); ++index)
-        texts.Add(qut::wxFromQt(m_model->row(index)->text));
+    for (int index = 0; index < d->model->rowCount(); ++index)
+        texts.Add(qut::wxFromQt(d->model->row(index)->text));
     return texts;
 }
 
 void qwxChoice::Set(const wxArrayString& texts)
 {
-    m_model->reset(choiceRows(texts));
+    d->model->reset(choiceRows(texts));
 }
 
 void qwxChoice::Append(const wxString& text, qwxClientData* clientData)
@@ -159,18 +161,18 @@ void qwxChoice::Append(const wxString& text, qwxClientData* clientData)
 
 void qwxChoice::Insert(const wxString& text, int index, qwxClientData* clientData)
 {
-    m_model->insert(index, choiceRow(text, clientData));
+    d->model->insert(index, choiceRow(text, clientData));
 }
 
 qwxClientData* qwxChoice::GetClientObject(int index) const
 {
-    const ChoiceData* row = m_model->row(index);
+    const ChoiceData* row = d->model->row(index);
     return row ? row->clientData.get() : nullptr;
 }
 
 ChoiceListModel& qwxChoice::model() const
 {
-    return *m_model;
+    return *d->model;
 }
 
 } // namespace dbr

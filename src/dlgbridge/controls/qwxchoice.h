@@ -10,6 +10,7 @@
 namespace dbr {
 
 class ChoiceListModel;
+class qwxChoicePrivate;
 class qwxClientData;
 
 // A drop-down list whose rows the wrapper owns, each with optional client
@@ -20,8 +21,7 @@ public:
     qwxChoice(const OdString& name, qwxWindow& parent);
     ~qwxChoice() override;
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxChoice)
 
     virtual void Select(int index);
     virtual int GetSelection() const;
@@ -53,7 +53,7 @@ public:
     ChoiceListModel& model() const;
 
 private:
-    std::unique_ptr<ChoiceListModel> const m_model;
+    std::unique_ptr<qwxChoicePrivate> const d;
 };
 
 } // namespace dbr

@@ -1,8 +1,10 @@
 #include "qwxcombobox.h"
 
 #include "controlproperties_p.h"
+#include "modelonitem_p.h"
 
 #include <QDebug>
+#include <QStringList>
 
 #include <qut/qtconversions.h>
 #include <qut/stringlistmodel.h>
@@ -26,26 +28,29 @@ bool isEditable(const qwxWindow& control)
     return control.getQmlProperty("editable").toBool();
 }
 
+std::unique_ptr<qut::StringListModel> modelOf(const QStringList& declared)
+{
+    return std::make_unique<qut::StringListModel>(std::vector<QString>(declared.begin(), declared.end()));
+}
+
 } // namespace
+
+class qwxComboBoxPrivate
+{
+public:
+    explicit qwxComboBoxPrivate(qwxWindow& control)
+        : model(control, &modelOf)
+    {}
+
+    ModelOnItem<qut::StringListModel> model;
+};
 
 qwxComboBox::qwxComboBox(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
-    , m_model(std::make_unique<qut::StringListModel>(controlproperties::modelStrings(*this)))
-{
-    controlproperties::setModel(*this, m_model.get());
-}
+    , d(std::make_unique<qwxComboBoxPrivate>(*this))
+{}
 
 qwxComboBox::~qwxComboBox() = default;
-
-QString qwxComboBox::typeId()
-{
-    return QStringLiteral("qwxComboBox");
-}
-
-QString qwxComboBox::typeName() const
-{
-    return typeId();
-}
 
 wxString qwxComboBox::GetValue() const
 {
@@ -97,7 +102,7 @@ int qwxComboBox::FindString(const wxString& text, bool caseSensitive) const
 
 int qwxComboBox::Append(const wxString& text)
 {
-    return m_model->append(qut::toQt(text));
+    return d->model->append(qut::toQt(text));
 }
 
 int qwxComboBox::AppendString(const wxString& text)
@@ -107,22 +112,22 @@ int qwxComboBox::AppendString(const wxString& text)
 
 void qwxComboBox::Append(const wxSortedArrayString& texts)
 {
-    m_model->append(toQtStrings(texts));
+    d->model->append(toQtStrings(texts));
 }
 
 void qwxComboBox::Clear()
 {
-    m_model->clear();
+    d->model->clear();
 }
 
 void qwxComboBox::Set(const wxArrayString& texts)
 {
-    m_model->reset(toQtStrings(texts));
+    d->model->reset(toQtStrings(texts));
 }
 
 qut::StringListModel& qwxComboBox::model() const
 {
-    return *m_model;
+    return *d->model;
 }
 
 } // namespace dbr

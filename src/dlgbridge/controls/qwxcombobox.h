@@ -13,6 +13,8 @@ class StringListModel;
 
 namespace dbr {
 
+class qwxComboBoxPrivate;
+
 // An editable drop-down list: plain strings, searched by the QML item itself.
 class DLGBRIDGE_EXPORT qwxComboBox : public qwxControl
 {
@@ -20,8 +22,7 @@ public:
     qwxComboBox(const OdString& name, qwxWindow& parent);
     ~qwxComboBox() override;
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxComboBox)
 
     // The edited text of an editable combo, else the current entry's.
     wxString GetValue() const;
@@ -42,7 +43,7 @@ public:
     qut::StringListModel& model() const;
 
 private:
-    std::unique_ptr<qut::StringListModel> const m_model;
+    std::unique_ptr<qwxComboBoxPrivate> const d;
 };
 
 } // namespace dbr

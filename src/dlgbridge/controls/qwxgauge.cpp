@@ -16,16 +16,6 @@ qwxGauge::qwxGauge(const OdString& name, qwxWindow& parent)
 
 qwxGauge::~qwxGauge() = default;
 
-QString qwxGauge::typeId()
-{
-    return QStringLiteral("qwxGauge");
-}
-
-QString qwxGauge::typeName() const
-{
-    return typeId();
-}
-
 void qwxGauge::SetRange(int range)
 {
     d->range = range == 0 ? 1 : range;

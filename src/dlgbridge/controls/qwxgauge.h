@@ -16,8 +16,7 @@ public:
     qwxGauge(const OdString& name, qwxWindow& parent);
     ~qwxGauge() override;
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxGauge)
 
     // A range of 0 is taken as 1.
     void SetRange(int range);

@@ -8,16 +8,6 @@ qwxRadioButton::qwxRadioButton(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
 {}
 
-QString qwxRadioButton::typeId()
-{
-    return QStringLiteral("qwxRadioButton");
-}
-
-QString qwxRadioButton::typeName() const
-{
-    return typeId();
-}
-
 void qwxRadioButton::SetValue(bool checked)
 {
     controlproperties::setChecked(*this, checked);

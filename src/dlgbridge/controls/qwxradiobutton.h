@@ -10,8 +10,7 @@ class DLGBRIDGE_EXPORT qwxRadioButton : public qwxControl
 public:
     qwxRadioButton(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxRadioButton)
 
     void SetValue(bool checked);
     bool GetValue() const;

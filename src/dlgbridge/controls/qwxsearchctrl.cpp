@@ -11,16 +11,6 @@ qwxSearchCtrl::qwxSearchCtrl(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
 {}
 
-QString qwxSearchCtrl::typeId()
-{
-    return QStringLiteral("qwxSearchCtrl");
-}
-
-QString qwxSearchCtrl::typeName() const
-{
-    return typeId();
-}
-
 void qwxSearchCtrl::SetDescriptiveText(const wxString& text)
 {
     setQmlProperty("placeholderText", qut::toQt(text));

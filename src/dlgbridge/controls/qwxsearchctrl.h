@@ -12,8 +12,7 @@ class DLGBRIDGE_EXPORT qwxSearchCtrl : public qwxControl
 public:
     qwxSearchCtrl(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxSearchCtrl)
 
     // The hint shown while the field is empty.
     void SetDescriptiveText(const wxString& text);

@@ -6,16 +6,6 @@ qwxSpinCtrl::qwxSpinCtrl(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
 {}
 
-QString qwxSpinCtrl::typeId()
-{
-    return QStringLiteral("qwxSpinCtrl");
-}
-
-QString qwxSpinCtrl::typeName() const
-{
-    return typeId();
-}
-
 int qwxSpinCtrl::GetValue() const
 {
     return getQmlProperty("value").toInt();

@@ -10,8 +10,7 @@ class DLGBRIDGE_EXPORT qwxSpinCtrl : public qwxControl
 public:
     qwxSpinCtrl(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxSpinCtrl)
 
     int GetValue() const;
     void SetValue(int value);

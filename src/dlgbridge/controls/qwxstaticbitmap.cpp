@@ -10,16 +10,6 @@ qwxStaticBitmap::qwxStaticBitmap(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
 {}
 
-QString qwxStaticBitmap::typeId()
-{
-    return QStringLiteral("qwxStaticBitmap");
-}
-
-QString qwxStaticBitmap::typeName() const
-{
-    return typeId();
-}
-
 void qwxStaticBitmap::setBitmap(const wxBitmap& bitmap)
 {
     controlproperties::setBitmap(*this, bitmap);

@@ -13,8 +13,7 @@ class DLGBRIDGE_EXPORT qwxStaticBitmap : public qwxControl
 public:
     qwxStaticBitmap(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxStaticBitmap)
 
     void setBitmap(const wxBitmap& bitmap);
     void setIcon(const wxString& icon);

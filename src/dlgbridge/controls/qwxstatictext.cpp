@@ -12,16 +12,6 @@ qwxStaticText::qwxStaticText(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
 {}
 
-QString qwxStaticText::typeId()
-{
-    return QStringLiteral("qwxStaticText");
-}
-
-QString qwxStaticText::typeName() const
-{
-    return typeId();
-}
-
 void qwxStaticText::SetLabel(const wxString& label)
 {
     controlproperties::setLabel(*this, label);

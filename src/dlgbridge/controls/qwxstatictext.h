@@ -13,8 +13,7 @@ class DLGBRIDGE_EXPORT qwxStaticText : public qwxControl
 public:
     qwxStaticText(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxStaticText)
 
     void SetLabel(const wxString& label);
     wxString GetLabel() const;

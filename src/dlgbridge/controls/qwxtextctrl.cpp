@@ -3,9 +3,8 @@
 #include "controlproperties_p.h"
 #include "textvalue_p.h"
 
+#include <dlgbridge/core/qmlcallbacks.h>
 #include <dlgbridge/core/qmlchildlist.h>
-
-#include <dlgbridge/core/qmlcallbacks_p.h>
 
 #include <QDebug>
 
@@ -33,16 +32,6 @@ qwxTextCtrl::qwxTextCtrl(const OdString& name, qwxWindow& parent, long style)
                "C++.\n\nFlags that don't need any changes and can just be removed:\n* wxTE_NOHIDESEL\n* "
                "wxTE_PROCESS_ENTER\n* wxTE_RICH\n");
     }
-}
-
-QString qwxTextCtrl::typeId()
-{
-    return QStringLiteral("qwxTextCtrl");
-}
-
-QString qwxTextCtrl::typeName() const
-{
-    return typeId();
 }
 
 wxString qwxTextCtrl::GetValue() const
@@ -108,7 +97,7 @@ void qwxTextCtrl::Connect(int eventType, EventHandler<qwxFocusEvent> handler, qw
 {
     if (eventType != wxEVT_KILL_FOCUS) {
         qWarning().noquote()
-            << QStringLiteral("(%1) Not connecting to event %2").arg(wrappedObjectName()).arg(eventType);
+            << QStringLiteral("(%1) Not connecting to event %2").arg(wrappedObjectName(), QString::number(eventType));
         return;
     }
     QObject* item = findObject();
@@ -117,9 +106,8 @@ void qwxTextCtrl::Connect(int eventType, EventHandler<qwxFocusEvent> handler, qw
     QmlChildList* list = GetParent() ? GetParent()->qmlChildren(UseParentList) : nullptr;
     if (!list)
         return;
-    auto callback = std::make_unique<QmlFocusCallback>(this, std::move(handler));
-    QObject::connect(item, "2editingFinished()", callback.get(), "1onEvent()", Qt::AutoConnection);
-    list->addQmlCallback(std::move(callback));
+    list->connectCallback(*item, "2editingFinished()", std::make_unique<QmlFocusCallback>(this, std::move(handler)),
+                          "1onEvent()");
 }
 
 } // namespace dbr

@@ -16,8 +16,7 @@ public:
     // A style has no effect: it belongs in the QML component.
     qwxTextCtrl(const OdString& name, qwxWindow& parent, long style = 0);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxTextCtrl)
 
     virtual wxString GetValue() const;
     virtual void SetValue(const wxString& value);

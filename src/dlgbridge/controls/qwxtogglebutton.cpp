@@ -8,16 +8,6 @@ qwxToggleButton::qwxToggleButton(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
 {}
 
-QString qwxToggleButton::typeId()
-{
-    return QStringLiteral("qwxToggleButton");
-}
-
-QString qwxToggleButton::typeName() const
-{
-    return typeId();
-}
-
 void qwxToggleButton::SetActiveChoice(int index)
 {
     controlproperties::setCurrentIndex(*this, index);

@@ -10,8 +10,7 @@ class DLGBRIDGE_EXPORT qwxToggleButton : public qwxControl
 public:
     qwxToggleButton(const OdString& name, qwxWindow& parent);
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxToggleButton)
 
     void SetActiveChoice(int index);
     int GetActiveChoice() const;

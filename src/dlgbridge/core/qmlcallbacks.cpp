@@ -1,4 +1,4 @@
-#include "qmlcallbacks_p.h"
+#include "qmlcallbacks.h"
 
 #include <qut/qtconversions.h>
 

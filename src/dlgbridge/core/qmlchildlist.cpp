@@ -18,6 +18,7 @@ QmlChildList::~QmlChildList() = default;
 
 void QmlChildList::populate(QObject& root)
 {
+    d->silenceCallbacks();
     d->children.clear();
     resetCallbacks();
     // The list is empty here, so the walk's map is taken whole rather than merged key by key.
@@ -26,6 +27,7 @@ void QmlChildList::populate(QObject& root)
 
 void QmlChildList::reset()
 {
+    d->silenceCallbacks();
     d->children.clear();
     resetCallbacks();
 }
@@ -66,8 +68,7 @@ qwxWindow* QmlChildList::FindWindow(const OdString& name) const
     if (windows.size() == 1)
         return windows.front().get();
     qCritical().noquote() << QStringLiteral("Error getting single window object '%1': %2 instances found")
-                                 .arg(wanted)
-                                 .arg(windows.size());
+                                 .arg(wanted, QString::number(windows.size()));
     return nullptr;
 }
 

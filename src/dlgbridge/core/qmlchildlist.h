@@ -52,6 +52,9 @@ public:
     }
 
     QObject& addQmlCallback(std::unique_ptr<QObject> callback);
+    // Connects signal of item to slot of callback and keeps the callback, only
+    // when Qt made the connection; a refusal is logged.
+    bool connectCallback(QObject& item, const char* signal, std::unique_ptr<QObject> callback, const char* slot);
 
     void TransferDataToWindow();
     void TransferDataFromWindow();
@@ -96,9 +99,12 @@ private:
 
     // Connects signal of the item called name (or of every wrapper of one of the
     // types, for "wxID_ANY") to slot of a callback made for its wrapper.
-    bool connectToSignal(const QString& signal, const OdString& name, const CallbackFactory& makeCallback,
-                         const QStringList& types, const std::string& slot,
-                         Qt::ConnectionType type = Qt::AutoConnection);
+    void connectToSignal(const char* signal, const OdString& name, const CallbackFactory& makeCallback,
+                         const QStringList& types, const char* slot);
+    void connectOne(QObject& top, const char* signal, const QString& name, const CallbackFactory& makeCallback,
+                    const char* slot);
+    void connectEvery(const char* signal, const CallbackFactory& makeCallback, const QStringList& types,
+                      const char* slot);
     // A connection whose callback raises a command event.
     void connectCommand(const char* signal, const char* slot, const OdString& name,
                         EventHandler<qwxCommandEvent> handler, const QStringList& types,

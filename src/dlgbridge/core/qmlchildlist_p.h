@@ -24,6 +24,16 @@ public:
         for (auto& callback : callbacks)
             callback.reset();
         callbacks.clear();
+        connections.clear();
+    }
+
+    // While wrappers are destroyed their items may still signal; a callback must
+    // not hand a dying wrapper to a handler.
+    void silenceCallbacks()
+    {
+        for (const QMetaObject::Connection& connection : connections)
+            QObject::disconnect(connection);
+        connections.clear();
     }
 
     template<typename Visit>
@@ -38,6 +48,7 @@ public:
     qwxWindow& parent;
     QmlChildList::ChildMap children;
     std::vector<std::unique_ptr<QObject>> callbacks;
+    std::vector<QMetaObject::Connection> connections;
     std::unique_ptr<QmlTimerHelper> timerHelper;
 };
 

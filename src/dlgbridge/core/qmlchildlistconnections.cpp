@@ -2,15 +2,10 @@
 #include "qmlchildlist.h"
 
 #include "logging_p.h"
-#include "qmlcallbacks_p.h"
+#include "qmlcallbacks.h"
+#include "itemsearch_p.h"
 #include "qmlchildlist_p.h"
-
-#include <dlgbridge/controls/qwxcheckbox.h>
-#include <dlgbridge/controls/qwxchoice.h>
-#include <dlgbridge/controls/qwxcombobox.h>
-#include <dlgbridge/controls/qwxsearchctrl.h>
-#include <dlgbridge/controls/qwxspinctrl.h>
-#include <dlgbridge/controls/qwxtextctrl.h>
+#include "wrapperkinds.h"
 
 #include <QDebug>
 
@@ -65,96 +60,100 @@ std::function<std::unique_ptr<QObject>(qwxWindow*)> plainCallback(EventHandler<E
     return [handler = std::move(handler)](qwxWindow* window) { return std::make_unique<Callback>(window, handler); };
 }
 
-qwxCommandEvent checkBoxState(qwxWindow* window)
-{
-    if (auto* checkBox = dynamic_cast<qwxCheckBox*>(window))
-        return qwxCommandEvent(window, checkBox->GetValue());
-    return qwxCommandEvent(window);
-}
-
-// The current value of a text, search, combo or spin control, read when the signal arrives.
-qwxCommandEvent textValue(qwxWindow* window)
-{
-    if (auto* search = dynamic_cast<qwxSearchCtrl*>(window))
-        return qwxCommandEvent(window, search->GetValue(), nullptr);
-    if (auto* text = dynamic_cast<qwxTextCtrl*>(window))
-        return qwxCommandEvent(window, text->GetValue(), nullptr);
-    if (auto* combo = dynamic_cast<qwxComboBox*>(window))
-        return qwxCommandEvent(window, combo->GetValue(), nullptr);
-    if (auto* spin = dynamic_cast<qwxSpinCtrl*>(window))
-        return qwxCommandEvent(window, spin->GetValue(), nullptr);
-    return qwxCommandEvent(window);
-}
-
-qwxCommandEvent choiceSelection(qwxWindow* window)
-{
-    auto* choice = dynamic_cast<qwxChoice*>(window);
-    if (!choice)
-        return qwxCommandEvent(window);
-    const int selection = choice->GetSelection();
-    return qwxCommandEvent(window, selection, choice->GetClientObject(selection));
-}
-
-qwxCommandEvent comboValue(qwxWindow* window)
-{
-    auto* combo = dynamic_cast<qwxComboBox*>(window);
-    return combo ? qwxCommandEvent(window, combo->GetValue(), nullptr) : qwxCommandEvent(window);
-}
-
 } // namespace
 
-bool QmlChildList::connectToSignal(const QString& signal, const OdString& name, const CallbackFactory& makeCallback,
-                                   const QStringList& types, const std::string& slot, Qt::ConnectionType type)
+void QmlChildList::connectToSignal(const char* signal, const OdString& name, const CallbackFactory& makeCallback,
+                                   const QStringList& types, const char* slot)
 {
     const QString objectName = qut::toQt(name);
     if (objectName.isEmpty())
-        return false;
+        return;
     QObject* top = root();
     if (!top) {
         qWarning().noquote() << QStringLiteral("(%1) Unable to connect to event: no child root object").arg(objectName);
-        return false;
+        return;
     }
-    const QByteArray signalText = signal.toLatin1();
+    if (objectName == wxIdAny)
+        connectEvery(signal, makeCallback, types, slot);
+    else
+        connectOne(*top, signal, objectName, makeCallback, slot);
+}
 
-    if (objectName != wxIdAny) {
-        qwxWindow* window = FindWindow(name);
-        if (!window) {
-            qWarning().noquote() << QStringLiteral("(%1) Did not find wrapper component").arg(objectName);
-            return false;
-        }
-        QObject* item = top->objectName() == objectName ? top : top->findChild<QObject*>(objectName);
-        if (!item) {
-            qWarning().noquote() << QStringLiteral("(%1) Did not find qml component").arg(objectName);
-            return false;
-        }
-        QObject::connect(item, signalText.constData(), &addQmlCallback(makeCallback(window)), slot.c_str(), type);
-        return true;
+void QmlChildList::connectOne(QObject& top, const char* signal, const QString& name,
+                              const CallbackFactory& makeCallback, const char* slot)
+{
+    qwxWindow* window = FindWindow(qut::odFromQt(name));
+    if (!window) {
+        qWarning().noquote() << QStringLiteral("(%1) Did not find wrapper component").arg(name);
+        return;
     }
+    QObject* item = itemsearch::find(top, name);
+    if (!item) {
+        qWarning().noquote() << QStringLiteral("(%1) Did not find qml component").arg(name);
+        return;
+    }
+    connectCallback(*item, signal, makeCallback(window), slot);
+}
+
+void QmlChildList::connectEvery(const char* signal, const CallbackFactory& makeCallback, const QStringList& types,
+                                const char* slot)
+{
+    // One walk per root for all the wrappers of the types, each item being the one its own search would find.
+    std::vector<std::pair<qwxWindow*, QObject*>> sources;
+    QHash<QObject*, QSet<QString>> namesByRoot;
+    d->forEachChild([&](qwxWindow& window) {
+        if (!types.contains(window.typeName()))
+            return;
+        QObject* windowRoot = window.root();
+        if (!windowRoot)
+            return;
+        sources.emplace_back(&window, windowRoot);
+        namesByRoot[windowRoot].insert(window.wrappedObjectName());
+    });
+    QHash<QObject*, QHash<QString, QObject*>> itemsByRoot;
+    for (auto names = namesByRoot.begin(); names != namesByRoot.end(); ++names)
+        itemsByRoot.insert(names.key(), itemsearch::findAll(*names.key(), std::move(names.value())));
 
     bool connected = false;
-    d->forEachChild(
-        [&](qwxWindow& window) {
-            QObject* item = window.findObject();
-            if (!item || !types.contains(window.typeName()))
-                return;
-            QObject::connect(item, signalText.constData(), &addQmlCallback(makeCallback(&window)), slot.c_str(), type);
-            qCDebug(lcInitSignals).noquote()
-                << QStringLiteral("Connect %1 (%2) to %3").arg(signal, window.typeName(), item->objectName());
-            connected = true;
-        });
-    if (!connected) {
-        qWarning().noquote()
-            << QStringLiteral("Did not find an object of type '%1' to connect to %2").arg(types.join(','), signal);
+    for (const auto& [window, windowRoot] : sources) {
+        const QString name = window->wrappedObjectName();
+        QObject* item = itemsByRoot.value(windowRoot).value(name);
+        if (!item) {
+            qWarning() << "Did not find object" << name;
+            continue;
+        }
+        if (!connectCallback(*item, signal, makeCallback(window), slot))
+            continue;
+        qCDebug(lcInitSignals).noquote() << QStringLiteral("Connect %1 (%2) to %3")
+                                                .arg(QLatin1String(signal), window->typeName(), item->objectName());
+        connected = true;
     }
+    if (!connected) {
+        qWarning().noquote() << QStringLiteral("Did not find an object of type '%1' to connect to %2")
+                                    .arg(types.join(QLatin1Char(',')), QLatin1String(signal));
+    }
+}
+
+bool QmlChildList::connectCallback(QObject& item, const char* signal, std::unique_ptr<QObject> callback,
+                                   const char* slot)
+{
+    // A callback whose connection Qt refused could never fire, so it is not kept.
+    QMetaObject::Connection connection = QObject::connect(&item, signal, callback.get(), slot);
+    if (!connection) {
+        qCWarning(lcInitSignals).noquote() << QStringLiteral("(%1) Unable to connect %2 to %3")
+                                                  .arg(item.objectName(), QLatin1String(signal), QLatin1String(slot));
+        return false;
+    }
+    d->connections.push_back(std::move(connection));
+    addQmlCallback(std::move(callback));
     return true;
 }
 
-void QmlChildList::connectCommand(const char* signal, const char* slot, const OdString& name,
-                                  EventHandler<qwxCommandEvent> handler, const QStringList& types,
-                                  std::function<qwxCommandEvent(qwxWindow*)> eventBuilder)
+void QmlChildList::connectCommand(const char* signal, const char* slot, const OdString& name, CommandHandler handler,
+                                  const QStringList& types, CommandEventBuilder eventBuilder)
 {
     connectToSignal(
-        QLatin1String(signal), name,
+        signal, name,
         [&handler, &eventBuilder](qwxWindow* window) {
             return std::make_unique<QmlGenericCallback>(handler, window, eventBuilder);
         },
@@ -193,7 +192,7 @@ void QmlChildList::connectToToggleButtonEvent(const OdString& name, EventHandler
 
 void QmlChildList::connectToCheckBoxEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
 {
-    connectCommand("2clicked()", "1onEvent()", name, std::move(handler), {"qwxCheckBox"}, checkBoxState);
+    connectCommand("2clicked()", "1onEvent()", name, std::move(handler), {"qwxCheckBox"}, valueevents::checkBoxState);
 }
 
 void QmlChildList::connectToNotebookPageChangedEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
@@ -217,48 +216,48 @@ void QmlChildList::connectToTextEvent(const OdString& name, EventHandler<qwxComm
     const char* comboSignal = "2editTextChanged()";
     const char* textSignal = "2textChanged()";
     if (qut::toQt(name) == wxIdAny) {
-        connectCommand(comboSignal, "1onEvent()", name, handler, {qwxComboBox::typeId()}, textValue);
-        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {qwxTextCtrl::typeId()}, textValue);
+        connectCommand(comboSignal, "1onEvent()", name, handler, {QStringLiteral("qwxComboBox")}, valueevents::textValue);
+        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {QStringLiteral("qwxTextCtrl")}, valueevents::textValue);
         return;
     }
     // An unknown name takes the text path, whose refusal logs why.
     const qwxWindow* window = FindWindow(name);
     const QString type = window ? window->typeName() : QString();
-    if (type == qwxComboBox::typeId())
-        connectCommand(comboSignal, "1onEvent()", name, std::move(handler), {type}, textValue);
-    else if (type == qwxSpinCtrl::typeId())
-        connectCommand("2valueModified()", "1onEvent()", name, std::move(handler), {type}, textValue);
+    if (type == QStringLiteral("qwxComboBox"))
+        connectCommand(comboSignal, "1onEvent()", name, std::move(handler), {type}, valueevents::textValue);
+    else if (type == QStringLiteral("qwxSpinCtrl"))
+        connectCommand("2valueModified()", "1onEvent()", name, std::move(handler), {type}, valueevents::textValue);
     else
-        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {qwxTextCtrl::typeId()}, textValue);
+        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {QStringLiteral("qwxTextCtrl")}, valueevents::textValue);
 }
 
 void QmlChildList::connectToChoiceEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
 {
-    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {qwxChoice::typeId()}, choiceSelection);
+    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {QStringLiteral("qwxChoice")}, valueevents::choiceSelection);
 }
 
 void QmlChildList::connectToComboEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
 {
-    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {qwxComboBox::typeId()}, comboValue);
+    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {QStringLiteral("qwxComboBox")}, valueevents::textValue);
 }
 
 void QmlChildList::connectToKeyPressedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler)
 {
-    connectToSignal(QStringLiteral("2keyPressed(int,int,QString)"), name,
+    connectToSignal("2keyPressed(int,int,QString)", name,
                     plainCallback<QmlKeyCallback>(std::move(handler)), {"qwxTextCtrl"},
                     "1onKeyPressed(int,int,QString)");
 }
 
 void QmlChildList::connectToKeyReleasedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler)
 {
-    connectToSignal(QStringLiteral("2keyReleased(int,int,QString)"), name,
+    connectToSignal("2keyReleased(int,int,QString)", name,
                     plainCallback<QmlKeyCallback>(std::move(handler)), {"qwxTextCtrl"},
                     "1onKeyPressed(int,int,QString)");
 }
 
 void QmlChildList::connectToContextMenuEvent(const OdString& name, EventHandler<qwxContextMenuEvent> handler)
 {
-    connectToSignal(QStringLiteral("2contextMenu()"), name, plainCallback<QmlContextMenuCallback>(std::move(handler)),
+    connectToSignal("2contextMenu()", name, plainCallback<QmlContextMenuCallback>(std::move(handler)),
                     {"qwxTextCtrl", "qwxTreeCtrl"}, "1onEvent()");
 }
 
@@ -269,7 +268,7 @@ void QmlChildList::connectToContextMenuEvent(const qwxWindow& window, EventHandl
 
 void QmlChildList::connectToLeftDoubleClick(const qwxWindow& window, EventHandler<qwxMouseEvent> handler)
 {
-    connectToSignal(QStringLiteral("2doubleClicked()"), qut::odFromQt(window.wrappedObjectName()),
+    connectToSignal("2doubleClicked()", qut::odFromQt(window.wrappedObjectName()),
                     plainCallback<QmlMouseEventCallback>(std::move(handler)), {"qwxTextCtrl"}, "1onDoubleClick()");
 }
 
@@ -277,9 +276,9 @@ void QmlChildList::connectToSizeEvent(const qwxWindow& window, EventHandler<qwxS
 {
     const OdString name = qut::odFromQt(window.wrappedObjectName());
     const QStringList types{qwxWindow::typeId()};
-    connectToSignal(QStringLiteral("2widthChanged()"), name, plainCallback<QmlSizeCallback>(handler), types,
+    connectToSignal("2widthChanged()", name, plainCallback<QmlSizeCallback>(handler), types,
                     "1onWidthChanged()");
-    connectToSignal(QStringLiteral("2heightChanged()"), name, plainCallback<QmlSizeCallback>(std::move(handler)), types,
+    connectToSignal("2heightChanged()", name, plainCallback<QmlSizeCallback>(std::move(handler)), types,
                     "1onHeightChanged()");
 }
 

@@ -1,6 +1,7 @@
 #include "qwxwindow.h"
 
 #include "ieventhandler.h"
+#include "itemsearch_p.h"
 #include "qmlchildlist.h"
 
 #include <QDebug>
@@ -141,16 +142,18 @@ QVariant qwxWindow::getQmlProperty(const std::string& name) const
 
 QObject* qwxWindow::findItemToAccess(const char* access, const std::string& property) const
 {
-    if (!root()) {
+    QObject* top = root();
+    if (!top) {
         qWarning().noquote() << QStringLiteral("('%1', type: '%2') Unable to %3 qml property %4: no root object")
                                     .arg(wrappedObjectName(), typeName(), QLatin1String(access),
                                          QString::fromStdString(property));
         return nullptr;
     }
-    QObject* item = findObject(wrappedObjectName());
+    const QString name = wrappedObjectName();
+    QObject* item = findObjectUnder(*top, name);
     if (!item) {
         qWarning().noquote() << QStringLiteral("(%1) Unable to %2 qml property %3: object not found")
-                                    .arg(wrappedObjectName(), QLatin1String(access), QString::fromStdString(property));
+                                    .arg(name, QLatin1String(access), QString::fromStdString(property));
     }
     return item;
 }
@@ -160,17 +163,24 @@ QObject* qwxWindow::findObject() const
     return findObject(wrappedObjectName());
 }
 
+QObject* qwxWindow::findObjectIfAny() const
+{
+    QObject* top = root();
+    return top ? itemsearch::find(*top, wrappedObjectName()) : nullptr;
+}
+
 QObject* qwxWindow::findObject(const QString& name) const
 {
     QObject* top = root();
-    if (!top)
-        return nullptr;
-    if (top->objectName() == name)
-        return top;
-    if (QObject* found = top->findChild<QObject*>(name, Qt::FindChildrenRecursively))
-        return found;
-    qWarning() << "Did not find object" << name;
-    return nullptr;
+    return top ? findObjectUnder(*top, name) : nullptr;
+}
+
+QObject* qwxWindow::findObjectUnder(QObject& top, const QString& name)
+{
+    QObject* found = itemsearch::find(top, name);
+    if (!found)
+        qWarning() << "Did not find object" << name;
+    return found;
 }
 
 namespace {

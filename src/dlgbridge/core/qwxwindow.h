@@ -34,6 +34,12 @@ using WrapperFactory = std::function<std::unique_ptr<qwxWindow>(const OdString& 
 // Wrapper factories by QML type name.
 using CustomTypes = std::map<QString, WrapperFactory>;
 
+// Gives a wrapper class its type name: typeId() names the class itself,
+// typeName() the dynamic type of an object; both are compared as text.
+#define DBR_WRAPPER_TYPE(Class)                                                                                        \
+    static QString typeId() { return QStringLiteral(#Class); }                                                         \
+    QString typeName() const override { return typeId(); }
+
 // Root of every wrapper. A wrapper holds no widget: each access looks its QML
 // item up by object name under root() and reads or writes a property of it.
 class DLGBRIDGE_EXPORT qwxWindow
@@ -78,6 +84,8 @@ public:
     bool setQmlProperty(const std::string& name, QVariant value);
     QVariant getQmlProperty(const std::string& name) const;
     QObject* findObject() const;
+    // The item of this wrapper, or null without a log line: for clean-up, where a vanished item is normal.
+    QObject* findObjectIfAny() const;
 
     // Content loading, run on a host with its own child list: populate, then
     // resyncToUI, doEventTableInit and onCreateWindow, each for the host first
@@ -121,6 +129,7 @@ protected:
 private:
     // The item of this wrapper, or null after logging why the property can't be accessed.
     QObject* findItemToAccess(const char* access, const std::string& property) const;
+    static QObject* findObjectUnder(QObject& top, const QString& name);
 
     qwxWindow* m_parent = nullptr;
 };

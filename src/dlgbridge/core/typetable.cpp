@@ -3,20 +3,7 @@
 
 #include "logging_p.h"
 
-#include <dlgbridge/controls/qwxbitmapbutton.h>
-#include <dlgbridge/controls/qwxbutton.h>
-#include <dlgbridge/controls/qwxcheckbox.h>
-#include <dlgbridge/controls/qwxchoice.h>
-#include <dlgbridge/controls/qwxcombobox.h>
-#include <dlgbridge/controls/qwxgauge.h>
-#include <dlgbridge/controls/qwxradiobutton.h>
-#include <dlgbridge/controls/qwxsearchctrl.h>
-#include <dlgbridge/controls/qwxspinctrl.h>
-#include <dlgbridge/controls/qwxstaticbitmap.h>
-#include <dlgbridge/controls/qwxstatictext.h>
-#include <dlgbridge/controls/qwxtextctrl.h>
-#include <dlgbridge/controls/qwxtogglebutton.h>
-#include <dlgbridge/hosting/qwxpanel.h>
+#include "wrapperkinds.h"
 
 #include <QDebug>
 #include <QObject>
@@ -29,52 +16,6 @@ namespace dbr {
 namespace {
 
 const QString wxIdAny = QStringLiteral("wxID_ANY");
-
-// Makes the wrapper of a table row; the item is there for rows whose class
-// depends on a property of it.
-using RowFactory = std::unique_ptr<qwxWindow> (*)(QObject& item, const OdString& name, qwxWindow& host);
-
-struct TableRow
-{
-    QStringList types;
-    RowFactory create;
-};
-
-template<typename Wrapper>
-std::unique_ptr<qwxWindow> make(QObject&, const OdString& name, qwxWindow& host)
-{
-    return std::make_unique<Wrapper>(name, host);
-}
-
-// An editable combo is a combo box, any other a choice.
-std::unique_ptr<qwxWindow> makeCombo(QObject& item, const OdString& name, qwxWindow& host)
-{
-    if (item.property("editable").toBool())
-        return std::make_unique<qwxComboBox>(name, host);
-    return std::make_unique<qwxChoice>(name, host);
-}
-
-// Tested in order, each type by exact comparison.
-const std::vector<TableRow>& wrapperTable()
-{
-    static const std::vector<TableRow> rows{
-        {{"TextField", "ScrollableTextArea", "TextArea"}, &make<qwxTextCtrl>},
-        {{"CheckBox"}, &make<qwxCheckBox>},
-        {{"Button", "ButtonOutline", "RoundButton", "IconButton", "GhostButton"}, &make<qwxButton>},
-        {{"Label"}, &make<qwxStaticText>},
-        {{"ToggleButton"}, &make<qwxToggleButton>},
-        {{"RadioButton"}, &make<qwxRadioButton>},
-        {{"SpinBox"}, &make<qwxSpinCtrl>},
-        {{"Image", "ImageAV"}, &make<qwxStaticBitmap>},
-        {{"SearchField"}, &make<qwxSearchCtrl>},
-        {{"ImageButton"}, &make<qwxBitmapButton>},
-        {{"Panel"}, &make<qwxPanel>},
-        {{"ComboBox"}, &makeCombo},
-        {{"ProgressBar"}, &make<qwxGauge>},
-        {{"Pane"}, &make<qwxPanel>},
-    };
-    return rows;
-}
 
 bool isGenericType(const QString& type)
 {
@@ -106,11 +47,9 @@ bool isHiddenSubtree(const QObject& object)
 
 std::unique_ptr<qwxWindow> createFromTable(QObject& item, const QString& name, const QString& type, qwxWindow& host)
 {
-    for (const TableRow& row : wrapperTable()) {
-        if (row.types.contains(type)) {
-            qCDebug(lcInitTypes).noquote() << QStringLiteral("(%1) Creating wxconv wrapper '%2'").arg(name, type);
-            return row.create(item, qut::odFromQt(name), host);
-        }
+    if (const StandardWrapperFactory create = standardWrapperFactory(type)) {
+        qCDebug(lcInitTypes).noquote() << QStringLiteral("(%1) Creating wxconv wrapper '%2'").arg(name, type);
+        return create(item, qut::odFromQt(name), host);
     }
     if (type == QLatin1String("Menu"))
         qWarning().noquote() << QStringLiteral("(%1) 'Menu' is unsupported, use WxConvMenu instead").arg(name);

@@ -8,6 +8,7 @@
 #include <dlgbridge/services/iguicontroller.h>
 
 #include <QDebug>
+#include <QPointer>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -54,7 +55,8 @@ public:
     }
 
 private:
-    QQuickItem* m_item;
+    // QML that a dialog binds to may be deleted under it.
+    QPointer<QQuickItem> m_item;
 };
 
 // The application must exist before its first dialog; without one the
@@ -113,16 +115,6 @@ bool qwxDialog::beforeOk()
 bool qwxDialog::beforeCancel()
 {
     return true;
-}
-
-QString qwxDialog::typeId()
-{
-    return QStringLiteral("qwxDialog");
-}
-
-QString qwxDialog::typeName() const
-{
-    return typeId();
 }
 
 QString qwxDialog::wrappedObjectName() const

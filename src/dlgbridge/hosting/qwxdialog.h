@@ -35,8 +35,7 @@ public:
     virtual bool beforeOk();
     virtual bool beforeCancel();
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxDialog)
     QString wrappedObjectName() const override;
     QObject* root() const override;
     wxWindow* wx() override;

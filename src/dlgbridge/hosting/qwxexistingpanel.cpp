@@ -23,16 +23,6 @@ qwxExistingPanel::qwxExistingPanel()
 
 qwxExistingPanel::~qwxExistingPanel() = default;
 
-QString qwxExistingPanel::typeId()
-{
-    return QStringLiteral("qwxExistingPanel");
-}
-
-QString qwxExistingPanel::typeName() const
-{
-    return typeId();
-}
-
 QObject* qwxExistingPanel::root() const
 {
     return d->panel ? d->panel->root() : nullptr;

@@ -17,8 +17,7 @@ public:
     qwxExistingPanel();
     ~qwxExistingPanel() override;
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxExistingPanel)
     QObject* root() const override;
     wxWindow* wx() override;
     const QmlChildList* qmlChildren(UseParentListIfNone mode) const override;

@@ -1,6 +1,7 @@
 #include "qwxpanel.h"
 
 #include <QDebug>
+#include <QPointer>
 #include <QQuickItem>
 
 #include <qut/qtconversions.h>
@@ -14,7 +15,8 @@ public:
         : name(std::move(panelName))
     {}
 
-    QObject* root = nullptr;
+    // The item may go with its Loader or a reload; then the panel has no root.
+    QPointer<QObject> root;
     QString name;
 };
 
@@ -31,16 +33,6 @@ qwxPanel::qwxPanel(qwxWindow& parent)
 {}
 
 qwxPanel::~qwxPanel() = default;
-
-QString qwxPanel::typeId()
-{
-    return QStringLiteral("qwxPanel");
-}
-
-QString qwxPanel::typeName() const
-{
-    return typeId();
-}
 
 QString qwxPanel::wrappedObjectName() const
 {
@@ -83,8 +75,15 @@ void qwxPanel::Reparent(qwxWindow& newParent)
         if (content.isValid() && content.value<QObject*>())
             target = content.value<QObject*>();
     }
-    if (setQmlProperty("parent", QVariant::fromValue(target)))
-        SetParent(&newParent);
+    if (!setQmlProperty("parent", QVariant::fromValue(target)))
+        return;
+    // Qt Quick refuses a parent from the item's own subtree, with a warning but without failing the write.
+    if (getQmlProperty("parent").value<QObject*>() != target) {
+        qWarning().noquote() << QStringLiteral("(%1) The item refused '%2' as its parent")
+                                    .arg(wrappedObjectName(), newParent.wrappedObjectName());
+        return;
+    }
+    SetParent(&newParent);
 }
 
 namespace wut {

@@ -18,8 +18,7 @@ public:
     explicit qwxPanel(qwxWindow& parent);
     ~qwxPanel() override;
 
-    static QString typeId();
-    QString typeName() const override;
+    DBR_WRAPPER_TYPE(qwxPanel)
     QString wrappedObjectName() const override;
     QObject* root() const override;
 
