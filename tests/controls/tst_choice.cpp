@@ -3,9 +3,12 @@
 #include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxspinctrl.h>
 #include <dlgbridge/core/qmlchildlist.h>
+#include <dlgbridge/hosting/qwxdialog.h>
+#include <dlgbridge/hosting/qwxexistingpanel.h>
 
 #include <QAbstractItemModelTester>
 #include <QLoggingCategory>
+#include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -14,21 +17,24 @@
 
 #include "support/hostedqml.h"
 #include "support/logrecorder.h"
+#include "support/paths.h"
+
+#include <quickhost/quickhost.h>
+#include <quickhost/quickpanel.h>
 
 using namespace dbr;
 using namespace dbr::test;
 
 namespace {
 
-// Client data that counts its own deletion.
+// Client data that counts its own deletion; rows outlive a test function, so the count is no local.
 struct CountedData : qwxClientData
 {
-    explicit CountedData(int& deleted)
-        : deleted(deleted)
-    {}
     ~CountedData() override { ++deleted; }
-    int& deleted;
+    static int deleted;
 };
+
+int CountedData::deleted = 0;
 
 QStringList rowsOf(const QAbstractItemModel& model)
 {
@@ -61,6 +67,9 @@ private Q_SLOTS:
     void combo_searchesThroughTheItem();
     void valueEvents_carryTheValueWhenTheSignalArrives();
     void textEvent_picksTheSignalByType();
+    void secondLoad_showsTheDeclaredEntriesAgain();
+    void dialogReload_rebuildsOverTheSameItems();
+    void panelReload_readsTheNewItems();
 
 private:
     QObject* item(const char* name) const { return m_ui->item(name); }
@@ -123,28 +132,28 @@ void tst_Choice::choiceEdits_notifyRowByRow()
 
 void tst_Choice::choice_ownsItsClientData()
 {
-    int deleted = 0;
-    auto* kept = new CountedData(deleted);
+    CountedData::deleted = 0;
+    auto* kept = new CountedData;
     choice().Append("with data", kept);
     QCOMPARE(choice().GetCount(), 3);
     QCOMPARE(choice().GetClientObject(choice().GetCount() - 1), kept);
     QCOMPARE(choice().GetClientObject(3), nullptr);
 
     // A row that can't be inserted takes its client data with it.
-    choice().Insert("too far", choice().GetCount() + 1, new CountedData(deleted));
-    QCOMPARE(deleted, 1);
+    choice().Insert("too far", choice().GetCount() + 1, new CountedData);
+    QCOMPARE(CountedData::deleted, 1);
     QCOMPARE(choice().GetCount(), 3);
 
     choice().SetString(2, "renamed");
-    QCOMPARE(deleted, 2);
+    QCOMPARE(CountedData::deleted, 2);
     QCOMPARE(choice().GetClientObject(2), nullptr);
 
-    choice().Insert("again", 0, new CountedData(deleted));
+    choice().Insert("again", 0, new CountedData);
     choice().Delete(0);
-    QCOMPARE(deleted, 3);
-    choice().Append("last", new CountedData(deleted));
+    QCOMPARE(CountedData::deleted, 3);
+    choice().Append("last", new CountedData);
     m_ui.reset(); // the wrappers go, and their rows with them
-    QCOMPARE(deleted, 4);
+    QCOMPARE(CountedData::deleted, 4);
 }
 
 void tst_Choice::combo_searchesThroughTheItem()
@@ -181,8 +190,7 @@ void tst_Choice::combo_searchesThroughTheItem()
 
 void tst_Choice::valueEvents_carryTheValueWhenTheSignalArrives()
 {
-    int deleted = 0;
-    auto* data = new CountedData(deleted);
+    auto* data = new CountedData;
     choice().Append("c", data);
     QList<int> selections;
     QList<qwxClientData*> clientObjects;
@@ -234,6 +242,65 @@ void tst_Choice::textEvent_picksTheSignalByType()
     list.child<qwxSpinCtrl>("count")->SetValue(4);
     QVERIFY(QMetaObject::invokeMethod(item("count"), "valueModified"));
     QCOMPARE(heard, (QStringList{"path=typed0", "name=n0", "search=s0", "count=4"}));
+}
+
+void tst_Choice::secondLoad_showsTheDeclaredEntriesAgain()
+{
+    choice().Append("c");
+    combo().Append("gamma");
+    // The items stay and get new wrappers, which must not find the former ones' models.
+    m_ui->host.populate();
+    QCOMPARE(rowsOf(choice().model()), (QStringList{"a", "b"}));
+    QCOMPARE(rowsOf(combo().model()), (QStringList{"Alpha", "beta"}));
+    QCOMPARE(item("kind")->property("count").toInt(), 2);
+    QCOMPARE(item("path")->property("model").value<QObject*>(), static_cast<QObject*>(&combo().model()));
+
+    // Without wrappers the items show what their QML declared.
+    m_ui->host.list().reset();
+    QCOMPARE(item("kind")->property("model").toStringList(), (QStringList{"a", "b"}));
+    QCOMPARE(item("path")->property("count").toInt(), 2);
+}
+
+void tst_Choice::dialogReload_rebuildsOverTheSameItems()
+{
+    m_ui.reset();
+    QmlFixture qml;
+    QObject* root = qml.loadFile(QStringLiteral("choices.qml"));
+    const auto item = [root](const char* name) { return root->findChild<QObject*>(QLatin1String(name)); };
+    qwxDialog dialog(qobject_cast<QQuickItem*>(root));
+    int loads = 0;
+    dialog.setInitDialogFunctor([&loads](qwxInitDialogEvent&) { ++loads; });
+    QTRY_COMPARE(loads, 1);
+    QmlChildList& list = *dialog.qmlChildren(qwxWindow::OwnListOnly);
+    list.child<qwxChoice>("kind")->Append("c");
+    QCOMPARE(item("kind")->property("count").toInt(), 3);
+
+    dialog.reloadContent();
+    QTRY_COMPARE(loads, 2);
+    QCOMPARE(list.child<qwxChoice>("kind")->GetCount(), 2);
+    QCOMPARE(item("kind")->property("count").toInt(), 2);
+    QCOMPARE(qut::toQt(list.child<qwxComboBox>("path")->GetValue()), QStringLiteral("Alpha"));
+}
+
+void tst_Choice::panelReload_readsTheNewItems()
+{
+    m_ui.reset();
+    quickhost::QuickHost host({qmlImportDir()});
+    quickhost::QuickPanel application(host.engine(), testDataUrl(QStringLiteral("choices.qml")));
+    qwxExistingPanel panel;
+    panel.setPanel(&application);
+    panel.loadContent();
+    auto* path = panel.qmlChildren(qwxWindow::OwnListOnly)->child<qwxComboBox>("path");
+    QVERIFY(path);
+
+    application.reload();
+    panel.onQmlReloaded();
+    // The wrapper reads and writes the item it finds now, which shows its own entries.
+    const auto newItem = [&] { return application.root()->findChild<QObject*>(QStringLiteral("path")); };
+    QCOMPARE(path->FindString("beta", false), 1);
+    path->SetSelection(1);
+    QCOMPARE(newItem()->property("currentIndex").toInt(), 1);
+    QCOMPARE(qut::toQt(path->GetValue()), QStringLiteral("beta"));
 }
 
 QTEST_MAIN(tst_Choice)

@@ -1,6 +1,8 @@
 #include <dlgbridge/core/qmlchildlist.h>
 
 #include <QLoggingCategory>
+#include <QQuickItem>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <qut/qtconversions.h>
@@ -19,10 +21,57 @@ using namespace dbr::test;
 namespace {
 
 using Connect = std::function<void(TestHost&, const EventHandler<qwxCommandEvent>&)>;
+// Binds a handler that notes what it hears.
+using Bind = std::function<void(QmlChildList&, QStringList& heard)>;
+// Makes the items of the fixture raise their signals.
+using Raise = std::function<void(HostedQml&)>;
+
+// A wrapper that answers to the type name of a wrapper class the library has no QML for here.
+class TypedControl : public qwxControl
+{
+public:
+    TypedControl(const OdString& name, qwxWindow& parent, QString type)
+        : qwxControl(name, parent)
+        , m_type(std::move(type))
+    {}
+
+    QString typeName() const override { return m_type; }
+
+private:
+    QString m_type;
+};
+
+WrapperFactory typedFactory(const char* type)
+{
+    return [type](const OdString& name, qwxWindow& parent) {
+        return std::make_unique<TypedControl>(name, parent, QLatin1String(type));
+    };
+}
+
+template<typename Event>
+EventHandler<Event> noting(QStringList& heard, const char* what)
+{
+    return [&heard, what](Event& event) { heard.append(QLatin1String(what) + ':' + qut::toQt(event.GetId())); };
+}
+
+QString describeKey(const qwxKeyEvent& event)
+{
+    return QStringLiteral("key %1 '%2' shift %3")
+        .arg(QString::number(event.getKey()), QString(QChar(event.GetUnicodeKey())), QString::number(event.ShiftDown()));
+}
+
+void typeInto(HostedQml& ui, const char* name, Qt::Key key)
+{
+    auto* item = qobject_cast<QQuickItem*>(ui.item(name));
+    item->forceActiveFocus();
+    QTest::keyClick(item->window(), key);
+}
 
 } // namespace
 
 Q_DECLARE_METATYPE(Connect)
+Q_DECLARE_METATYPE(Bind)
+Q_DECLARE_METATYPE(Raise)
 
 class tst_Connections : public QObject
 {
@@ -37,6 +86,10 @@ private Q_SLOTS:
     void refusals_logAndBindNothing_data();
     void refusals_logAndBindNothing();
     void emptyHandler_throwsOnlyWhenTheSignalArrives();
+    void signalPaths_reachTheirHandlers_data();
+    void signalPaths_reachTheirHandlers();
+    void missingSignal_isLoggedAsAConnectionFailure();
+    void repopulate_silencesTheItemsOfDyingWrappers();
 
 private:
     void emitSignal(const char* name, const char* signal) { QVERIFY(QMetaObject::invokeMethod(m_ui->item(name), signal)); }
@@ -118,6 +171,93 @@ void tst_Connections::emptyHandler_throwsOnlyWhenTheSignalArrives()
 {
     list().connectToClickEvent("wxID_OK", EventHandler<qwxCommandEvent>());
     QVERIFY_EXCEPTION_THROWN(emitSignal("wxID_OK", "clicked"), std::bad_function_call);
+}
+
+void tst_Connections::signalPaths_reachTheirHandlers_data()
+{
+    QTest::addColumn<Bind>("bind");
+    QTest::addColumn<Raise>("raise");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("key press and release") << Bind([](QmlChildList& list, QStringList& heard) {
+        const auto note = [&heard](const char* what) {
+            return [&heard, what](qwxKeyEvent& event) { heard.append(QLatin1String(what) + ' ' + describeKey(event)); };
+        };
+        list.connectToKeyPressedEvent("field", note("pressed"));
+        list.connectToKeyReleasedEvent("field", note("released"));
+    }) << Raise([](HostedQml& ui) { typeInto(ui, "field", Qt::Key_B); })
+       << QStringList{"pressed key 66 'b' shift 0", "released key 66 'b' shift 0"};
+    QTest::newRow("context menu") << Bind([](QmlChildList& list, QStringList& heard) {
+        list.connectToContextMenuEvent("field", noting<qwxContextMenuEvent>(heard, "menu"));
+    }) << Raise([](HostedQml& ui) { QVERIFY(QMetaObject::invokeMethod(ui.item("field"), "contextMenu")); })
+       << QStringList{"menu:field"};
+    QTest::newRow("double click") << Bind([](QmlChildList& list, QStringList& heard) {
+        list.connectToLeftDoubleClick(*list.FindWindow("field"), noting<qwxMouseEvent>(heard, "double"));
+    }) << Raise([](HostedQml& ui) { QVERIFY(QMetaObject::invokeMethod(ui.item("field"), "doubleClicked")); })
+       << QStringList{"double:field"};
+    QTest::newRow("size, by width and by height") << Bind([](QmlChildList& list, QStringList& heard) {
+        list.connectToSizeEvent(*list.FindWindow("field"), noting<qwxSizeEvent>(heard, "size"));
+    }) << Raise([](HostedQml& ui) {
+        ui.item("field")->setProperty("width", 120);
+        ui.item("field")->setProperty("height", 50);
+    }) << QStringList{"size:field", "size:field"};
+    QTest::newRow("radio button") << Bind([](QmlChildList& list, QStringList& heard) {
+        list.connectToRadioButtonEvent("wxID_ANY", noting<qwxCommandEvent>(heard, "radio"));
+    }) << Raise([](HostedQml& ui) { clickItem(ui.item("radio")); }) << QStringList{"radio:radio"};
+    QTest::newRow("toggle button") << Bind([](QmlChildList& list, QStringList& heard) {
+        list.connectToToggleButtonEvent("wxID_ANY", noting<qwxCommandEvent>(heard, "toggle"));
+    }) << Raise([](HostedQml& ui) { ui.item("mode")->setProperty("currentIndex", 1); })
+       << QStringList{"toggle:mode"};
+    QTest::newRow("notebook page") << Bind([](QmlChildList& list, QStringList& heard) {
+        list.connectToNotebookPageChangedEvent("wxID_ANY", [&heard](qwxCommandEvent& event) {
+            heard.append(QStringLiteral("page %1").arg(event.GetSelection()));
+        });
+    }) << Raise([](HostedQml& ui) { QVERIFY(QMetaObject::invokeMethod(ui.item("pages"), "currentChanged", Q_ARG(int, 2))); })
+       << QStringList{"page 2"};
+    QTest::newRow("menu item, by its string") << Bind([](QmlChildList& list, QStringList& heard) {
+        list.connectToMenuEvent("copy", [&heard](qwxCommandEvent& event) { heard.append(qut::toQt(event.GetString())); });
+    }) << Raise([](HostedQml& ui) {
+        for (const char* id : {"paste", "copy", "copy all"})
+            QVERIFY(QMetaObject::invokeMethod(ui.item("menu"), "menuItemTriggered", Q_ARG(QString, QLatin1String(id))));
+    }) << QStringList{"copy"};
+}
+
+void tst_Connections::signalPaths_reachTheirHandlers()
+{
+    QFETCH(Bind, bind);
+    QFETCH(Raise, raise);
+    QFETCH(QStringList, expected);
+
+    HostedQml ui("signals.qml", {{"Notebook", typedFactory("qwxNotebook")}, {"WxConvMenu", typedFactory("qwxMenu")}});
+    ItemWindow window(ui.host.root());
+    QStringList heard;
+    bind(ui.host.list(), heard);
+    raise(ui);
+    QCOMPARE(heard, expected);
+}
+
+void tst_Connections::missingSignal_isLoggedAsAConnectionFailure()
+{
+    int calls = 0;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^QObject::connect: No such signal .*::accepted\\(\\)"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^QObject::connect: .*sender name: .*'outline'"));
+    QTest::ignoreMessage(QtWarningMsg, "(outline) Unable to connect 2accepted() to 1onEvent()");
+    list().connectToTextAcceptedEvent("outline", [&calls](qwxCommandEvent&) { ++calls; });
+    emitSignal("outline", "clicked");
+    QCOMPARE(calls, 0);
+}
+
+void tst_Connections::repopulate_silencesTheItemsOfDyingWrappers()
+{
+    // The toggle button's search finds the combo of its name, whose index changes when its wrapper goes.
+    HostedQml ui("twins.qml");
+    QStringList heard;
+    ui.host.list().connectToToggleButtonEvent("wxID_ANY", noting<qwxCommandEvent>(heard, "toggle"));
+    ui.item("twin")->setProperty("currentIndex", 1);
+    QCOMPARE(heard, QStringList{"toggle:twin"});
+
+    ui.host.populate();
+    QCOMPARE(heard, QStringList{"toggle:twin"});
 }
 
 QTEST_MAIN(tst_Connections)

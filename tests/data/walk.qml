@@ -5,9 +5,9 @@ import Arvela.Components 1.0
 DialogAV {
     showOk: false
     showCancel: false
-    Field { objectName: "a" }
+    Field { objectName: "a%1" }
     Item {
-        Field { objectName: "a" }
+        Field { objectName: "a%1" }
         Field { objectName: "b" }
     }
     RowLayout { objectName: "PANEL_left"; Field { objectName: "c" } }

@@ -4,6 +4,7 @@
 #include <support/testhost.h>
 
 #include <dlgbridge/core/qmlchildlist.h>
+#include <dlgbridge/hosting/qwxdialog.h>
 #include <dlgbridge/hosting/qwxexistingpanel.h>
 #include <dlgbridge/hosting/qwxpanel.h>
 
@@ -11,6 +12,7 @@
 #include <quickhost/quickpanel.h>
 
 #include <QQuickItem>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace dbr;
@@ -51,6 +53,8 @@ private Q_SLOTS:
     void init_findsTheItemOnceOrSaysWhy();
     void reparent_movesTheItemAndThenTheWrapper();
     void existingPanel_bindsAndRebindsAfterAReload();
+    void reparentIntoItsOwnSubtree_isRefusedByItemAndWrapper();
+    void vanishedItems_readAsNoRoot();
 
 private:
     QmlFixture m_qml;
@@ -147,6 +151,50 @@ void tst_Panels::existingPanel_bindsAndRebindsAfterAReload()
     QCOMPARE(panel.FindWindow("go"), go);
     emitClicked(application.root()->findChild<QObject*>(QStringLiteral("go")));
     QCOMPARE(panel.clicks, 2);
+}
+
+void tst_Panels::reparentIntoItsOwnSubtree_isRefusedByItemAndWrapper()
+{
+    TestHost host(m_qml.loadFile(QStringLiteral("dialog.qml")));
+    host.populate();
+    qwxPanel details("details", host);
+    qwxPanel side("PANEL_side", host);
+    side.Reparent(details);
+
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^QQuickItem::setParentItem: Parent .* is already part of"));
+    QTest::ignoreMessage(QtWarningMsg, "(details) The item refused 'PANEL_side' as its parent");
+    details.Reparent(side);
+    QCOMPARE(details.GetParent(), static_cast<qwxWindow*>(&host));
+    // No cycle in the wrappers: a search through the parents ends.
+    QVERIFY(side.FindWindow("agree"));
+}
+
+void tst_Panels::vanishedItems_readAsNoRoot()
+{
+    QObject* root = m_qml.loadData(R"(
+        import QtQuick 2.15
+        Item {
+            Loader { objectName: "tools"; sourceComponent: Item { objectName: "PANEL_tools" } }
+            Loader { objectName: "page"; sourceComponent: Item { objectName: "page" } }
+        })");
+    const auto loader = [root](const char* name) { return root->findChild<QObject*>(QLatin1String(name)); };
+    TestHost host(root);
+    qwxPanel panel("PANEL_tools", host);
+    QVERIFY(panel.root());
+    qwxDialog dialog(qobject_cast<QQuickItem*>(loader("page")->property("item").value<QObject*>()));
+    QVERIFY(dialog.root());
+
+    for (const char* name : {"tools", "page"})
+        loader(name)->setProperty("active", false);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTest::ignoreMessage(QtWarningMsg,
+                         "('PANEL_tools', type: 'qwxPanel') Unable to get qml property visible: no root object");
+    QVERIFY(!panel.IsShown());
+    QTest::ignoreMessage(QtWarningMsg, "('', type: 'qwxDialog') Unable to get qml property visible: no root object");
+    QVERIFY(!dialog.IsShown());
+    // Its deferred load finds nothing to load either.
+    QTest::ignoreMessage(QtCriticalMsg, "Unable to set up dialog: no root object found");
+    QTest::qWait(1);
 }
 
 QTEST_MAIN(tst_Panels)
