@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <wx/defs.h>
+
 #include <qut/qtconversions.h>
 
 #include <functional>
@@ -106,7 +108,7 @@ void tst_Connections::click_reachesHandlersInOrderUntilReset()
     };
     LogRecorder log;
     list().connectToClickEvent("outline", note("name"));
-    list().connectToClickEvent(5100, note("id"));
+    list().connectToClickEvent(wxID_OK, note("id"));
     list().connectToClickEvent(-1, note("any"));
     // The wildcard takes buttons and bitmap buttons, in key order, and nothing else.
     QCOMPARE(

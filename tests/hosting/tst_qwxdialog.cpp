@@ -13,16 +13,14 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include <wx/defs.h>
+
 #include <functional>
 
 using namespace dbr;
 using namespace dbr::test;
 
 namespace {
-
-constexpr int wxIdOk = 5100;
-constexpr int wxIdCancel = 5101;
-constexpr int wxIdApply = 5102;
 
 // An application whose dialogs never come into being.
 class NoDialogController : public quickhost::QuickGuiController
@@ -91,8 +89,8 @@ void tst_QwxDialog::modalOk_endsWith5100AfterTheDialogWasLoadedAndBound()
         clickItem(shown.item("wxID_OK"));
     };
 
-    QCOMPARE(ShowModal(&dialog), wxIdOk);
-    QCOMPARE(dialog.GetReturnCode(), wxIdOk);
+    QCOMPARE(ShowModal(&dialog), wxID_OK);
+    QCOMPARE(dialog.GetReturnCode(), wxID_OK);
     QVERIFY(!dialog.IsModal());
     QCOMPARE(agreed, QList<bool>{true});
     QCOMPARE(m_validators.transfers, (QStringList{"to:count", "from:count"}));
@@ -112,7 +110,7 @@ void tst_QwxDialog::vetoedOk_keepsTheLoopRunningWithTheDataTransferred()
         clickItem(shown.item("wxID_OK"));
     };
 
-    QCOMPARE(ShowModal(&dialog), wxIdOk);
+    QCOMPARE(ShowModal(&dialog), wxID_OK);
     QCOMPARE(dialog.journal.count(QStringLiteral("beforeOk")), 2);
     QCOMPARE(m_validators.transfers, (QStringList{"to:count", "from:count", "from:count"}));
 }
@@ -124,7 +122,7 @@ void tst_QwxDialog::cancel_transfersNothing()
     dialog.bind = validateCount();
     dialog.script = [](TestDialog& shown) { clickItem(shown.item("wxID_CANCEL")); };
 
-    QCOMPARE(ShowModal(&dialog), wxIdCancel);
+    QCOMPARE(ShowModal(&dialog), wxID_CANCEL);
     QCOMPARE(dialog.journal.last(), QStringLiteral("beforeCancel"));
     QCOMPARE(m_validators.transfers, QStringList{"to:count"});
 }
@@ -135,7 +133,7 @@ void tst_QwxDialog::apply_isHeardAndLeavesTheDialogOpen()
     QVERIFY(loadDialog(dialog));
     int applied = 0;
     dialog.bind = [&](QmlChildList& list) {
-        list.connectToDlgResult(wxIdApply, [&](qwxCommandEvent& event) {
+        list.connectToDlgResult(wxID_APPLY, [&](qwxCommandEvent& event) {
             QCOMPARE(event.GetEventObject(), static_cast<qwxWindow*>(&dialog));
             ++applied;
         });
@@ -144,10 +142,10 @@ void tst_QwxDialog::apply_isHeardAndLeavesTheDialogOpen()
         clickItem(shown.item("wxID_APPLY"));
         QVERIFY(shown.IsModal());
         // Ending by code asks no hook.
-        EndModal(&shown, 5103);
+        EndModal(&shown, wxID_YES);
     };
 
-    QCOMPARE(ShowModal(&dialog), 5103);
+    QCOMPARE(ShowModal(&dialog), wxID_YES);
     QCOMPARE(applied, 1);
     QVERIFY(!dialog.journal.contains(QStringLiteral("beforeOk")));
 }
@@ -161,16 +159,16 @@ void tst_QwxDialog::withoutInternalDialog_everyForwarderAnswersNeutrally()
     TestDialog dialog;
     QVERIFY(loadDialog(dialog));
     QTest::ignoreMessage(QtCriticalMsg, "Unable to show modal dialog: internal dialog not found");
-    QCOMPARE(ShowModal(&dialog), wxIdCancel);
+    QCOMPARE(ShowModal(&dialog), wxID_CANCEL);
     QTest::ignoreMessage(QtCriticalMsg, "Unable to show dialog: internal dialog not found");
     dialog.Show();
     QTest::ignoreMessage(QtCriticalMsg, "Unable to end modal dialog: internal dialog not found");
-    dialog.EndModal(wxIdOk);
+    dialog.EndModal(wxID_OK);
     QTest::ignoreMessage(QtCriticalMsg, "Unable to hide dialog: internal dialog not found");
-    EndModal(&dialog, wxIdOk);
+    EndModal(&dialog, wxID_OK);
     // Hides through the root, of which there is none: no message of its own.
     QTest::ignoreMessage(QtWarningMsg, "('', type: 'qwxDialog') Unable to set qml property visible: no root object");
-    dialog.EndDialog(wxIdOk);
+    dialog.EndDialog(wxID_OK);
     dialog.SetTitle("ignored");
 
     QCOMPARE(dialog.GetReturnCode(), -1);
@@ -257,7 +255,7 @@ void tst_QwxDialog::dialogOnExistingItem_loadsWithoutTheApplication()
     QTRY_COMPARE(initialisedWith, static_cast<qwxWindow*>(&dialog));
     QVERIFY(dialog.FindWindow("agree"));
 
-    dialog.EndDialog(wxIdOk);
+    dialog.EndDialog(wxID_OK);
     QVERIFY(!item->isVisible());
 }
 
@@ -267,10 +265,10 @@ void tst_QwxDialog::controller_decidesByReturnCode_data()
     QTest::addColumn<bool>("agreed");
     QTest::addColumn<QStringList>("hooks");
 
-    QTest::newRow("ok, vetoed") << wxIdOk << false << QStringList{"beforeOk"};
-    QTest::newRow("cancel") << wxIdCancel << true << QStringList{"beforeCancel"};
-    QTest::newRow("yes") << 5103 << true << QStringList{};
-    QTest::newRow("apply") << wxIdApply << true << QStringList{};
+    QTest::newRow("ok, vetoed") << int(wxID_OK) << false << QStringList{"beforeOk"};
+    QTest::newRow("cancel") << int(wxID_CANCEL) << true << QStringList{"beforeCancel"};
+    QTest::newRow("yes") << int(wxID_YES) << true << QStringList{};
+    QTest::newRow("apply") << int(wxID_APPLY) << true << QStringList{};
 }
 
 void tst_QwxDialog::controller_decidesByReturnCode()

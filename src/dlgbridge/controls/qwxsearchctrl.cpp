@@ -1,6 +1,5 @@
 #include "qwxsearchctrl.h"
 
-#include "controlproperties_p.h"
 #include "textvalue_p.h"
 
 #include <qut/qtconversions.h>
@@ -18,18 +17,17 @@ void qwxSearchCtrl::SetDescriptiveText(const wxString& text)
 
 wxString qwxSearchCtrl::GetValue() const
 {
-    return controlproperties::stringProperty(*this, "text");
+    return textvalue::text(*this);
 }
 
 void qwxSearchCtrl::SetValue(const wxString& value)
 {
-    textvalue::setText(*this, value, GetValue());
+    textvalue::setText(*this, value);
 }
 
 void qwxSearchCtrl::ChangeValue(const wxString& value)
 {
-    const textvalue::ItemSignalBlocker blocker(*this);
-    SetValue(value);
+    textvalue::changeText(*this, value);
 }
 
 } // namespace dbr

@@ -36,18 +36,17 @@ qwxTextCtrl::qwxTextCtrl(const OdString& name, qwxWindow& parent, long style)
 
 wxString qwxTextCtrl::GetValue() const
 {
-    return controlproperties::stringProperty(*this, "text");
+    return textvalue::text(*this);
 }
 
 void qwxTextCtrl::SetValue(const wxString& value)
 {
-    textvalue::setText(*this, value, GetValue());
+    textvalue::setText(*this, value);
 }
 
 void qwxTextCtrl::ChangeValue(const wxString& value)
 {
-    const textvalue::ItemSignalBlocker blocker(*this);
-    SetValue(value);
+    textvalue::changeText(*this, value);
 }
 
 void qwxTextCtrl::SetSelection(long from, long to)

@@ -1,16 +1,53 @@
 #include "textvalue_p.h"
 
+#include "controlproperties_p.h"
+
 #include <dlgbridge/core/qwxwindow.h>
 
 #include <QDebug>
+#include <QPointer>
 
 #include <qut/qtconversions.h>
 
 namespace dbr::textvalue {
 
-void setText(qwxWindow& control, const wxString& value, const wxString& old)
+namespace {
+
+// Blocks the signals of a control's item while it lives, so that no handler
+// hears a change made by code.
+class ItemSignalBlocker
 {
-    if (value.IsSameAs(old))
+public:
+    explicit ItemSignalBlocker(const qwxWindow& control)
+        : m_item(control.findObject())
+    {
+        if (m_item)
+            m_wasBlocked = m_item->blockSignals(true);
+    }
+
+    ~ItemSignalBlocker()
+    {
+        if (m_item)
+            m_item->blockSignals(m_wasBlocked);
+    }
+
+    Q_DISABLE_COPY(ItemSignalBlocker)
+
+private:
+    QPointer<QObject> m_item;
+    bool m_wasBlocked = false;
+};
+
+} // namespace
+
+wxString text(const qwxWindow& control)
+{
+    return controlproperties::stringProperty(control, "text");
+}
+
+void setText(qwxWindow& control, const wxString& value)
+{
+    if (value.IsSameAs(text(control)))
         return;
     QObject* item = control.findObject();
     if (!item) {
@@ -22,17 +59,10 @@ void setText(qwxWindow& control, const wxString& value, const wxString& old)
         QMetaObject::invokeMethod(item, "insert", Qt::DirectConnection, Q_ARG(int, 0), Q_ARG(QString, qut::toQt(value)));
 }
 
-ItemSignalBlocker::ItemSignalBlocker(const qwxWindow& control)
-    : m_item(control.findObject())
+void changeText(qwxWindow& control, const wxString& value)
 {
-    if (m_item)
-        m_wasBlocked = m_item->blockSignals(true);
-}
-
-ItemSignalBlocker::~ItemSignalBlocker()
-{
-    if (m_item)
-        m_item->blockSignals(m_wasBlocked);
+    const ItemSignalBlocker blocker(control);
+    setText(control, value);
 }
 
 } // namespace dbr::textvalue

@@ -54,7 +54,9 @@ QObject* find(QObject& root, const QString& name)
     if (root.objectName() == name)
         return &root;
     // findChild takes a null name for "any name"; an empty one is a name like the others.
-    return root.findChild<QObject*>(name.isNull() ? QLatin1String("") : name, Qt::FindChildrenRecursively);
+    if (name.isNull())
+        return root.findChild<QObject*>(QLatin1String(""), Qt::FindChildrenRecursively);
+    return root.findChild<QObject*>(name, Qt::FindChildrenRecursively);
 }
 
 QHash<QString, QObject*> findAll(QObject& root, QSet<QString> names)

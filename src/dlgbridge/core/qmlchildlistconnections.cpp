@@ -9,6 +9,8 @@
 
 #include <QDebug>
 
+#include <wx/defs.h>
+
 #include <qut/qtconversions.h>
 
 #include <algorithm>
@@ -28,13 +30,33 @@ struct StandardId
 
 // The object names that standard buttons must carry, by wx id.
 constexpr StandardId standardIds[] = {
-    {-1, "wxID_ANY"},        {5001, "wxID_CLOSE"},   {5002, "wxID_NEW"},      {5003, "wxID_SAVE"},
-    {5009, "wxID_HELP"},     {5038, "wxID_DELETE"},  {5039, "wxID_REPLACE"},  {5100, "wxID_OK"},
-    {5101, "wxID_CANCEL"},   {5102, "wxID_APPLY"},   {5103, "wxID_YES"},      {5104, "wxID_NO"},
-    {5105, "wxID_STATIC"},   {5106, "wxID_FORWARD"}, {5107, "wxID_BACKWARD"}, {5108, "wxID_DEFAULT"},
-    {5109, "wxID_MORE"},     {5110, "wxID_SETUP"},   {5111, "wxID_RESET"},    {5112, "wxID_CONTEXT_HELP"},
-    {5113, "wxID_YESTOALL"}, {5114, "wxID_NOTOALL"}, {5115, "wxID_ABORT"},    {5116, "wxID_RETRY"},
-    {5117, "wxID_IGNORE"},   {5118, "wxID_ADD"},     {5119, "wxID_REMOVE"},
+    {wxID_ANY, "wxID_ANY"},
+    {wxID_CLOSE, "wxID_CLOSE"},
+    {wxID_NEW, "wxID_NEW"},
+    {wxID_SAVE, "wxID_SAVE"},
+    {wxID_HELP, "wxID_HELP"},
+    {wxID_DELETE, "wxID_DELETE"},
+    {wxID_REPLACE, "wxID_REPLACE"},
+    {wxID_OK, "wxID_OK"},
+    {wxID_CANCEL, "wxID_CANCEL"},
+    {wxID_APPLY, "wxID_APPLY"},
+    {wxID_YES, "wxID_YES"},
+    {wxID_NO, "wxID_NO"},
+    {wxID_STATIC, "wxID_STATIC"},
+    {wxID_FORWARD, "wxID_FORWARD"},
+    {wxID_BACKWARD, "wxID_BACKWARD"},
+    {wxID_DEFAULT, "wxID_DEFAULT"},
+    {wxID_MORE, "wxID_MORE"},
+    {wxID_SETUP, "wxID_SETUP"},
+    {wxID_RESET, "wxID_RESET"},
+    {wxID_CONTEXT_HELP, "wxID_CONTEXT_HELP"},
+    {wxID_YESTOALL, "wxID_YESTOALL"},
+    {wxID_NOTOALL, "wxID_NOTOALL"},
+    {wxID_ABORT, "wxID_ABORT"},
+    {wxID_RETRY, "wxID_RETRY"},
+    {wxID_IGNORE, "wxID_IGNORE"},
+    {wxID_ADD, "wxID_ADD"},
+    {wxID_REMOVE, "wxID_REMOVE"},
 };
 
 const char* standardButtonName(int id)
@@ -47,9 +69,9 @@ const char* standardButtonName(int id)
 const char* dialogResultSignal(int id)
 {
     switch (id) {
-    case 5100: return "2accepted()";
-    case 5101: return "2rejected()";
-    case 5102: return "2applied()";
+    case wxID_OK: return "2accepted()";
+    case wxID_CANCEL: return "2rejected()";
+    case wxID_APPLY: return "2applied()";
     }
     return nullptr;
 }

@@ -1,8 +1,7 @@
 #include "qwxevent.h"
 
+#include "qwxclientdata.h"
 #include "qwxwindow.h"
-
-#include <dlgbridge/core/qwxclientdata.h>
 
 #include <QDebug>
 
@@ -15,12 +14,6 @@ namespace dbr {
 namespace {
 
 constexpr int keypadMask = ~int(Qt::KeypadModifier);
-
-void* voidDataOf(qwxClientData* clientObject)
-{
-    auto* data = dynamic_cast<VoidClientData*>(clientObject);
-    return data ? data->GetData() : nullptr;
-}
 
 } // namespace
 
@@ -126,39 +119,33 @@ int qwxCommandEvent::getMenuId() const
     return 0;
 }
 
-qwxListEvent::qwxListEvent(qwxWindow* window, qwxClientData* clientObject, int index)
+qwxClientDataEvent::qwxClientDataEvent(qwxWindow* window, qwxClientData* clientObject)
     : qwxEvent(window)
-    , m_index(index)
     , m_clientObject(clientObject)
 {}
 
-qwxClientData* qwxListEvent::GetClientObject() const
+qwxClientData* qwxClientDataEvent::GetClientObject() const
 {
     return m_clientObject;
 }
 
-void* qwxListEvent::GetClientData()
+void* qwxClientDataEvent::GetClientData()
 {
-    return voidDataOf(m_clientObject);
+    auto* data = dynamic_cast<VoidClientData*>(m_clientObject);
+    return data ? data->GetData() : nullptr;
 }
 
+qwxListEvent::qwxListEvent(qwxWindow* window, qwxClientData* clientObject, int index)
+    : qwxClientDataEvent(window, clientObject)
+    , m_index(index)
+{}
+
 qwxGridEvent::qwxGridEvent(qwxWindow* window, qwxClientData* clientObject, int row, int column, const wxString& text)
-    : qwxEvent(window)
+    : qwxClientDataEvent(window, clientObject)
     , m_row(row)
     , m_column(column)
     , m_text(text)
-    , m_clientObject(clientObject)
 {}
-
-qwxClientData* qwxGridEvent::GetClientObject() const
-{
-    return m_clientObject;
-}
-
-void* qwxGridEvent::GetClientData()
-{
-    return voidDataOf(m_clientObject);
-}
 
 qwxKeyEvent::qwxKeyEvent(qwxWindow* window, int key, int modifiers, const QString& text)
     : qwxEvent(window)

@@ -67,22 +67,32 @@ private:
     std::unique_ptr<qwxCommandEventPrivate> d;
 };
 
-class DLGBRIDGE_EXPORT qwxListEvent : public qwxEvent
+// An event about a row that may carry the client data dialog code attached to it.
+class DLGBRIDGE_EXPORT qwxClientDataEvent : public qwxEvent
 {
 public:
-    qwxListEvent(qwxWindow* window, qwxClientData* clientObject, int index = -1);
+    qwxClientDataEvent(qwxWindow* window, qwxClientData* clientObject);
 
-    int GetIndex() const { return m_index; }
     qwxClientData* GetClientObject() const override;
     // The pointer of a VoidClientData; null for any other client object.
     void* GetClientData() override;
 
 private:
-    int m_index;
     qwxClientData* m_clientObject;
 };
 
-class DLGBRIDGE_EXPORT qwxGridEvent : public qwxEvent
+class DLGBRIDGE_EXPORT qwxListEvent : public qwxClientDataEvent
+{
+public:
+    qwxListEvent(qwxWindow* window, qwxClientData* clientObject, int index = -1);
+
+    int GetIndex() const { return m_index; }
+
+private:
+    int m_index;
+};
+
+class DLGBRIDGE_EXPORT qwxGridEvent : public qwxClientDataEvent
 {
 public:
     qwxGridEvent(qwxWindow* window, qwxClientData* clientObject, int row = -1, int column = -1,
@@ -91,15 +101,11 @@ public:
     int GetRow() const { return m_row; }
     int GetCol() const { return m_column; }
     wxString GetString() const { return m_text; }
-    qwxClientData* GetClientObject() const override;
-    // The pointer of a VoidClientData; null for any other client object.
-    void* GetClientData() override;
 
 private:
     int m_row;
     int m_column;
     wxString m_text;
-    qwxClientData* m_clientObject;
 };
 
 // A key press or release, always of type KeyPress; key codes are Qt's.
