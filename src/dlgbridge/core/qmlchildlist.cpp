@@ -55,21 +55,7 @@ QObject* QmlChildList::root()
 
 qwxWindow* QmlChildList::FindWindow(const OdString& name) const
 {
-    const QString wanted = qut::toQt(name);
-    if (wanted == qut::toQt(qut::wxFromQt(parent().wrappedObjectName())))
-        return &parent();
-
-    const auto entry = d->children.find(wanted);
-    if (entry == d->children.end()) {
-        qCritical().noquote() << QStringLiteral("Unable to find window object '%1'").arg(wanted);
-        return nullptr;
-    }
-    const auto& windows = entry->second;
-    if (windows.size() == 1)
-        return windows.front().get();
-    qCritical().noquote() << QStringLiteral("Error getting single window object '%1': %2 instances found")
-                                 .arg(wanted, QString::number(windows.size()));
-    return nullptr;
+    return d->findWindow(qut::toQt(name));
 }
 
 void QmlChildList::reportTypeMismatch(const OdString& name, const qwxWindow& window, const QString& expectedType)

@@ -3,6 +3,8 @@
 #include "qmlchildlist.h"
 #include "qmltimerhelper_p.h"
 
+#include <QDebug>
+
 namespace dbr {
 
 class QmlChildListPrivate
@@ -34,6 +36,24 @@ public:
         for (const QMetaObject::Connection& connection : connections)
             QObject::disconnect(connection);
         connections.clear();
+    }
+
+    // The wrapper of that name, or the host when the name is its own.
+    qwxWindow* findWindow(const QString& wanted) const
+    {
+        if (wanted == parent.wrappedObjectName())
+            return &parent;
+        const auto entry = children.find(wanted);
+        if (entry == children.end()) {
+            qCritical().noquote() << QStringLiteral("Unable to find window object '%1'").arg(wanted);
+            return nullptr;
+        }
+        const auto& windows = entry->second;
+        if (windows.size() == 1)
+            return windows.front().get();
+        qCritical().noquote() << QStringLiteral("Error getting single window object '%1': %2 instances found")
+                                     .arg(wanted, QString::number(windows.size()));
+        return nullptr;
     }
 
     template<typename Visit>

@@ -104,7 +104,7 @@ void QmlChildList::connectToSignal(const char* signal, const OdString& name, con
 void QmlChildList::connectOne(QObject& top, const char* signal, const QString& name,
                               const CallbackFactory& makeCallback, const char* slot)
 {
-    qwxWindow* window = FindWindow(qut::odFromQt(name));
+    qwxWindow* window = d->findWindow(name);
     if (!window) {
         qWarning().noquote() << QStringLiteral("(%1) Did not find wrapper component").arg(name);
         return;
