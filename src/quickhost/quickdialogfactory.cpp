@@ -120,8 +120,11 @@ std::pair<int, bool> QuickDialogFactory::showMessage(OdString title, OdString me
                                                      EMessageStyle style, const std::vector<MessageButtonInfo>& buttons,
                                                      wxWindow* parent) const
 {
-    if (d->faker)
-        return {d->faker(qut::wxFromOd(title), qut::wxFromOd(message), style, parent), true};
+    if (d->faker) {
+        // A faker may unset itself while it answers, so it runs as a copy.
+        const MessageBoxFaker faker = d->faker;
+        return {faker(qut::wxFromOd(title), qut::wxFromOd(message), style, parent), true};
+    }
 
     const std::vector<MessageButtonInfo> shown = buttons.empty() ? buttonsFromButtonStyle(Ok) : buttons;
     QVariantList buttonList;

@@ -144,6 +144,7 @@ private Q_SLOTS:
     void quickMessageBox_answersWithThePressedButton_data();
     void quickMessageBox_answersWithThePressedButton();
     void quickFaker_answersEveryBoxWithoutShowingUntilUnset();
+    void quickFaker_mayUnsetItselfWhileAnswering();
 
 private:
     QQmlEngine m_engine;
@@ -322,6 +323,24 @@ void tst_DialogFactory::quickFaker_answersEveryBoxWithoutShowingUntilUnset()
     QCOMPARE(host.dialogFactory().showInfoMessage("Done", "Saved"), wxOK);
     QCOMPARE(shown, QStringLiteral("Done|Saved||&OK"));
     QCOMPARE(asked.size(), 2);
+}
+
+void tst_DialogFactory::quickFaker_mayUnsetItselfWhileAnswering()
+{
+    quickhost::QuickHost host(QStringList{qmlImportDir()});
+    quickhost::QuickDialogFactory& factory = host.dialogFactory();
+    // Answers one box, then lets them show: its captures are read after it has unset itself.
+    factory.setupMessageBoxFaker(
+        [&factory, answers = std::vector<int>{wxYES}](const wxString&, const wxString&, int, wxWindow*) {
+            factory.unsetMessageBoxFaker();
+            return answers.front();
+        });
+
+    QCOMPARE(factory.showWarningMessage("Replace?", "It exists", nullptr, YesNo), wxYES);
+    QString shown;
+    answerWhenShown(shown, 1);
+    QCOMPARE(factory.showWarningMessage("Replace?", "It exists", nullptr, YesNo), wxNO);
+    QCOMPARE(shown, QStringLiteral("Replace?|It exists||&Yes,&No"));
 }
 
 QTEST_MAIN(tst_DialogFactory)
