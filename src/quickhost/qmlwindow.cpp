@@ -1,4 +1,4 @@
-#include "qmlwindow.h"
+#include "qmlwindow_p.h"
 
 #include <QDebug>
 #include <QEventLoop>

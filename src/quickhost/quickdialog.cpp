@@ -1,6 +1,6 @@
 #include "quickdialog.h"
 
-#include "qmlwindow.h"
+#include "qmlwindow_p.h"
 
 #include <dlgbridge/hosting/basedialogcontroller.h>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <dlgbridge/services/iwxqtdialog.h>
+#include <quickhost/quickhost_export.h>
 
 #include <QObject>
 
@@ -22,7 +23,7 @@ class QuickDialogPrivate;
 // the dialog only when it agrees; applied() leaves the dialog open, as an Apply
 // button does, for the handlers of the dialog code. Closing the window asks as
 // Cancel does, with or without content.
-class QuickDialog : public QObject, public IWxQtDialog
+class DLGBRIDGE_QUICKHOST_EXPORT QuickDialog : public QObject, public IWxQtDialog
 {
     Q_OBJECT
 

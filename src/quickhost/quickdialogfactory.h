@@ -1,6 +1,7 @@
 #pragma once
 
 #include <dlgbridge/services/dialogfactoryadapter.h>
+#include <quickhost/quickhost_export.h>
 
 #include <memory>
 
@@ -19,7 +20,7 @@ class QuickDialogFactoryPrivate;
 // of Ok, so that every box can be answered. The parent is not used: this host
 // has no wx windows to place a box over.
 // While a faker is set, it answers every box, as a pressed button, and nothing is shown.
-class QuickDialogFactory : public DialogFactoryAdapter
+class DLGBRIDGE_QUICKHOST_EXPORT QuickDialogFactory : public DialogFactoryAdapter
 {
 public:
     explicit QuickDialogFactory(QQmlEngine& engine);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <dlgbridge/services/guicontrolleradapter.h>
+#include <quickhost/quickhost_export.h>
 
 #include <vector>
 
@@ -9,7 +10,7 @@ class QQmlEngine;
 namespace dbr::quickhost {
 
 // Builds every dialog as a QuickDialog in one shared engine.
-class QuickGuiController : public GuiControllerAdapter
+class DLGBRIDGE_QUICKHOST_EXPORT QuickGuiController : public GuiControllerAdapter
 {
 public:
     explicit QuickGuiController(QQmlEngine& engine);
