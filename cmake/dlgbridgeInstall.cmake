@@ -8,6 +8,11 @@ install(TARGETS dlgbridge_platform dlgbridge EXPORT dlgbridgeTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
   FILE_SET export_header DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+# quickhost's headers keep their <quickhost/...> spelling under the package's own folder.
+install(TARGETS dlgbridge_quickhost EXPORT dlgbridgeTargets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/dlgbridge
+  FILE_SET export_header DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/dlgbridge)
 install(EXPORT dlgbridgeTargets NAMESPACE dlgbridge:: DESTINATION ${DLGBRIDGE_CMAKE_DIR})
 
 configure_package_config_file(cmake/dlgbridgeConfig.cmake.in
@@ -21,4 +26,6 @@ install(FILES
   cmake/dlgbridgeWx.cmake
   DESTINATION ${DLGBRIDGE_CMAKE_DIR})
 
-install(DIRECTORY "${DLGBRIDGE_QML_BUILD_DIR}/Arvela" DESTINATION ${DLGBRIDGE_QML_INSTALL_DIR})
+# The plugin is installed as a target, which drops its build-tree run path.
+install(DIRECTORY "${DLGBRIDGE_QML_BUILD_DIR}/Arvela" DESTINATION ${DLGBRIDGE_QML_INSTALL_DIR}
+  PATTERN "${CMAKE_SHARED_MODULE_PREFIX}arvelacomponentsplugin${CMAKE_SHARED_MODULE_SUFFIX}" EXCLUDE)

@@ -50,7 +50,9 @@ void SampleDialog::doEventTableInit()
     });
     children->connectToChoiceEvent("plotter", [this](qwxCommandEvent& event) {
         const auto* path = dynamic_cast<qwxStringClientData*>(event.GetClientObject());
-        seen.append(QStringLiteral("plotter %1 at %2").arg(event.GetSelection()).arg(path ? qut::toQt(path->GetData()) : QString()));
+        seen.append(QStringLiteral("plotter %1 at %2")
+                        .arg(event.GetSelection())
+                        .arg(path ? qut::toQt(path->GetData()) : QString()));
     });
     children->connectToTextEvent("paper", [this](qwxCommandEvent& event) {
         seen.append(QStringLiteral("paper \"%1\"").arg(qut::toQt(event.GetString())));
@@ -92,8 +94,8 @@ void SampleDialog::onApply()
 {
     const wxString summary = wxString::Format("%d copies on %s", control<qwxSpinCtrl>("copies")->GetValue(),
                                               control<qwxChoice>("plotter")->GetStringSelection());
-    const int answer = models()->dialogFactory->showInfoMessage("Plot settings", qut::odFromQt(qut::toQt(summary)),
-                                                               nullptr, OkCancel);
+    const int answer =
+        models()->dialogFactory->showInfoMessage("Plot settings", qut::odFromWx(summary), nullptr, OkCancel);
     seen.append(QStringLiteral("applied, info box answered %1").arg(answer));
 }
 

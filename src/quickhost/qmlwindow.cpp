@@ -1,4 +1,4 @@
-#include "qmlwindow.h"
+#include "qmlwindow_p.h"
 
 #include <QDebug>
 #include <QEventLoop>
@@ -120,7 +120,7 @@ void QmlWindow::instantiate()
         qWarning() << "Only local QML can be shown, not" << d->url;
         return;
     }
-    QObject* object = component.create(&d->context);
+    QObject* object = component.isReady() ? component.create(&d->context) : nullptr;
     if (!object) {
         qWarning().noquote() << component.errorString();
         return;

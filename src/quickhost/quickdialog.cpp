@@ -1,6 +1,6 @@
 #include "quickdialog.h"
 
-#include "qmlwindow.h"
+#include "qmlwindow_p.h"
 
 #include <dlgbridge/hosting/basedialogcontroller.h>
 
@@ -30,6 +30,7 @@ QuickDialog::QuickDialog(QQmlEngine& engine, const QUrl& url, BaseDialogControll
     : d(std::make_unique<QuickDialogPrivate>(engine, url, controller))
 {
     connectRoot();
+    d->content.window().installEventFilter(this);
 }
 
 QuickDialog::~QuickDialog() = default;
@@ -134,6 +135,16 @@ void QuickDialog::reload()
         d->controller->afterReset();
 }
 
+bool QuickDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != &d->content.window() || event->type() != QEvent::Close)
+        return QObject::eventFilter(watched, event);
+    // The window stays: it is hidden, not destroyed, when the dialog ends, and a
+    // refused close leaves it as it was.
+    event->setAccepted(requestEnd(wxID_CANCEL));
+    return true;
+}
+
 void QuickDialog::onAccepted()
 {
     requestEnd(wxID_OK);
@@ -157,15 +168,16 @@ void QuickDialog::connectRoot()
         connect(root, SIGNAL(rejected()), this, SLOT(onRejected()));
 }
 
-void QuickDialog::requestEnd(int returnCode)
+bool QuickDialog::requestEnd(int returnCode)
 {
     if (d->controller) {
         const bool agreed =
             IsModal() ? d->controller->beforeEndModal(returnCode) : d->controller->beforeEndNonModal(returnCode);
         if (!agreed)
-            return;
+            return false;
     }
     EndModal(returnCode);
+    return true;
 }
 
 } // namespace dbr::quickhost

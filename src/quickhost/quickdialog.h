@@ -1,6 +1,7 @@
 #pragma once
 
 #include <dlgbridge/services/iwxqtdialog.h>
+#include <quickhost/quickhost_export.h>
 
 #include <QObject>
 
@@ -20,8 +21,9 @@ class QuickDialogPrivate;
 // The application's side of a dialog: its QML in a Qt Quick window, and a
 // modal loop. The root's accepted() and rejected() ask the controller and end
 // the dialog only when it agrees; applied() leaves the dialog open, as an Apply
-// button does, for the handlers of the dialog code.
-class QuickDialog : public QObject, public IWxQtDialog
+// button does, for the handlers of the dialog code. Closing the window asks as
+// Cancel does, with or without content.
+class DLGBRIDGE_QUICKHOST_EXPORT QuickDialog : public QObject, public IWxQtDialog
 {
     Q_OBJECT
 
@@ -50,13 +52,17 @@ public:
     // Instantiates the QML anew and tells the controller, as after an edit of the file.
     void reload();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private Q_SLOTS:
     void onAccepted();
     void onRejected();
 
 private:
     void connectRoot();
-    void requestEnd(int returnCode);
+    // True when the dialog ended.
+    bool requestEnd(int returnCode);
 
     std::unique_ptr<QuickDialogPrivate> const d;
 };

@@ -17,11 +17,6 @@ namespace dbr::quickhost {
 
 namespace {
 
-wxString toWx(const OdString& text)
-{
-    return wxString(text.c_str());
-}
-
 // What a box answers when it is closed without a button.
 int closeCode(const std::vector<MessageButtonInfo>& buttons)
 {
@@ -125,8 +120,11 @@ std::pair<int, bool> QuickDialogFactory::showMessage(OdString title, OdString me
                                                      EMessageStyle style, const std::vector<MessageButtonInfo>& buttons,
                                                      wxWindow* parent) const
 {
-    if (d->faker)
-        return {d->faker(toWx(title), toWx(message), style, parent), true};
+    if (d->faker) {
+        // A faker may unset itself while it answers, so it runs as a copy.
+        const MessageBoxFaker faker = d->faker;
+        return {faker(qut::wxFromOd(title), qut::wxFromOd(message), style, parent), true};
+    }
 
     const std::vector<MessageButtonInfo> shown = buttons.empty() ? buttonsFromButtonStyle(Ok) : buttons;
     QVariantList buttonList;
@@ -154,55 +152,6 @@ bool QuickDialogFactory::loadLineTypes(wxWindow*, OdDbDatabase*, OdArray<OdStrin
 {
     return false;
 }
-
-void QuickDialogFactory::reserved4() {}
-void QuickDialogFactory::reserved6() {}
-void QuickDialogFactory::reserved8() {}
-void QuickDialogFactory::reserved9() {}
-void QuickDialogFactory::reserved10() {}
-void QuickDialogFactory::reserved11() {}
-void QuickDialogFactory::reserved12() {}
-void QuickDialogFactory::reserved13() {}
-void QuickDialogFactory::reserved14() {}
-void QuickDialogFactory::reserved15() {}
-void QuickDialogFactory::reserved16() {}
-void QuickDialogFactory::reserved17() {}
-void QuickDialogFactory::reserved18() {}
-void QuickDialogFactory::reserved19() {}
-void QuickDialogFactory::reserved20() {}
-void QuickDialogFactory::reserved21() {}
-void QuickDialogFactory::reserved22() {}
-void QuickDialogFactory::reserved23() {}
-void QuickDialogFactory::reserved24() {}
-void QuickDialogFactory::reserved25() {}
-void QuickDialogFactory::reserved26() {}
-void QuickDialogFactory::reserved27() {}
-void QuickDialogFactory::reserved28() {}
-void QuickDialogFactory::reserved30() {}
-void QuickDialogFactory::reserved31() {}
-void QuickDialogFactory::reserved32() {}
-void QuickDialogFactory::reserved33() {}
-void QuickDialogFactory::reserved34() {}
-void QuickDialogFactory::reserved35() {}
-void QuickDialogFactory::reserved36() {}
-void QuickDialogFactory::reserved37() {}
-void QuickDialogFactory::reserved38() {}
-void QuickDialogFactory::reserved39() {}
-void QuickDialogFactory::reserved40() {}
-void QuickDialogFactory::reserved41() {}
-void QuickDialogFactory::reserved42() {}
-void QuickDialogFactory::reserved43() {}
-void QuickDialogFactory::reserved44() {}
-void QuickDialogFactory::reserved45() {}
-void QuickDialogFactory::reserved46() {}
-void QuickDialogFactory::reserved47() {}
-void QuickDialogFactory::reserved48() {}
-void QuickDialogFactory::reserved49() {}
-void QuickDialogFactory::reserved50() {}
-void QuickDialogFactory::reserved51() {}
-void QuickDialogFactory::reserved52() {}
-void QuickDialogFactory::reserved53() {}
-void QuickDialogFactory::reserved54() {}
 
 } // namespace dbr::quickhost
 

@@ -18,10 +18,6 @@ std::unique_ptr<IWxQtDialog> QuickGuiController::createDialog(const QUrl& url, B
     return std::make_unique<QuickDialog>(m_engine, url, controller);
 }
 
-void QuickGuiController::reserved3() {}
-void QuickGuiController::reserved4() {}
-void QuickGuiController::reserved5() {}
-
 void QuickGuiController::attachContextDialog(IWxQtDialog* dialog)
 {
     m_attached.push_back(dialog);
@@ -31,12 +27,6 @@ void QuickGuiController::detachContextDialog(IWxQtDialog* dialog)
 {
     m_attached.erase(std::remove(m_attached.begin(), m_attached.end(), dialog), m_attached.end());
 }
-
-void QuickGuiController::reserved8() {}
-void QuickGuiController::reserved9() {}
-void QuickGuiController::reserved10() {}
-void QuickGuiController::reserved11() {}
-void QuickGuiController::reserved12() {}
 
 bool QuickGuiController::acceptsColor(const OdCmColor&, int)
 {
@@ -98,16 +88,6 @@ OdString QuickGuiController::lineWeightName(OdDb::LineWeight)
 {
     return OdString();
 }
-
-void QuickGuiController::reserved25() {}
-void QuickGuiController::reserved26() {}
-void QuickGuiController::reserved27() {}
-void QuickGuiController::reserved28() {}
-void QuickGuiController::reserved29() {}
-void QuickGuiController::reserved30() {}
-void QuickGuiController::reserved31() {}
-void QuickGuiController::reserved32() {}
-void QuickGuiController::reserved33() {}
 
 const std::vector<IWxQtDialog*>& QuickGuiController::attachedDialogs() const
 {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <dlgbridge/services/iguicontroller.h>
+#include <dlgbridge/services/guicontrolleradapter.h>
+#include <quickhost/quickhost_export.h>
 
 #include <vector>
 
@@ -9,25 +10,16 @@ class QQmlEngine;
 namespace dbr::quickhost {
 
 // Builds every dialog as a QuickDialog in one shared engine.
-class QuickGuiController : public IGuiController
+class DLGBRIDGE_QUICKHOST_EXPORT QuickGuiController : public GuiControllerAdapter
 {
 public:
     explicit QuickGuiController(QQmlEngine& engine);
     ~QuickGuiController() override;
 
-    std::unique_ptr<IWxQtDialog> createDialog(const QUrl& url, BaseDialogController* controller,
-                                              EResizable resizable, DialogOptions options,
-                                              wxWindow* parent) override;
-    void reserved3() override;
-    void reserved4() override;
-    void reserved5() override;
+    std::unique_ptr<IWxQtDialog> createDialog(const QUrl& url, BaseDialogController* controller, EResizable resizable,
+                                              DialogOptions options, wxWindow* parent) override;
     void attachContextDialog(IWxQtDialog* dialog) override;
     void detachContextDialog(IWxQtDialog* dialog) override;
-    void reserved8() override;
-    void reserved9() override;
-    void reserved10() override;
-    void reserved11() override;
-    void reserved12() override;
 
     // The CAD value lists come with the value models; until then they are empty.
     bool acceptsColor(const OdCmColor& color, int flags) override;
@@ -45,16 +37,6 @@ public:
     int lineWeightCount() override;
     OdDb::LineWeight lineWeightAt(int index) override;
     OdString lineWeightName(OdDb::LineWeight weight) override;
-
-    void reserved25() override;
-    void reserved26() override;
-    void reserved27() override;
-    void reserved28() override;
-    void reserved29() override;
-    void reserved30() override;
-    void reserved31() override;
-    void reserved32() override;
-    void reserved33() override;
 
     // The command context dialogs attached now, in the order they came.
     const std::vector<IWxQtDialog*>& attachedDialogs() const;

@@ -2,6 +2,7 @@
 
 #include "quickdialogfactory.h"
 #include "quickguicontroller.h"
+#include <quickhost/quickhost_export.h>
 
 #include <QQmlEngine>
 
@@ -12,9 +13,11 @@ namespace dbr::quickhost {
 // The reference application: one QML engine that reaches the component kit,
 // the GUI controller and the dialog factory built on it, and the application
 // object, installed as oa::OaApp::s_app for the host's lifetime.
-class QuickHost
+class DLGBRIDGE_QUICKHOST_EXPORT QuickHost
 {
 public:
+    // An installed host finds the installed component kit by itself; the
+    // given import paths come before it (a build tree's kit, say).
     explicit QuickHost(const QStringList& importPaths = {});
     ~QuickHost();
 

@@ -1,6 +1,6 @@
 #include "quickpanel.h"
 
-#include "qmlwindow.h"
+#include "qmlwindow_p.h"
 
 #include <QQuickItem>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <dlgbridge/services/iwxqtpanel.h>
+#include <quickhost/quickhost_export.h>
 
 #include <QObject>
 #include <QUrl>
@@ -16,7 +17,7 @@ class QmlWindow;
 
 // A panel of the application: its QML in a window of its own, which the
 // application may replace at any time with reload().
-class QuickPanel : public QObject, public IWxQtPanel
+class DLGBRIDGE_QUICKHOST_EXPORT QuickPanel : public QObject, public IWxQtPanel
 {
     Q_OBJECT
 

@@ -35,6 +35,8 @@ void tst_Platform::strings_surviveEveryConversion()
     QCOMPARE(qut::toQt(od), text);
     const wxString wx = qut::wxFromQt(text);
     QCOMPARE(qut::toQt(wx), text);
+    QCOMPARE(qut::toQt(qut::wxFromOd(od)), text);
+    QCOMPARE(qut::toQt(qut::odFromWx(wx)), text);
     QCOMPARE(qut::toQt(OdString(text.toUtf8().constData())), text);
     QCOMPARE(od.isEmpty(), text.isEmpty());
 }

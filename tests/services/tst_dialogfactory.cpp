@@ -21,11 +21,23 @@ using namespace dbr::test;
 
 namespace {
 
+// wx's name of a button code, so that rows read as the flags they mean.
+QString codeName(int code)
+{
+    switch (code) {
+    case wxOK: return QStringLiteral("wxOK");
+    case wxYES: return QStringLiteral("wxYES");
+    case wxNO: return QStringLiteral("wxNO");
+    case wxCANCEL: return QStringLiteral("wxCANCEL");
+    }
+    return QString::number(code);
+}
+
 QString describe(const std::vector<MessageButtonInfo>& buttons)
 {
     QStringList parts;
     for (const MessageButtonInfo& button : buttons)
-        parts.append(QStringLiteral("%1 %2").arg(qut::toQt(button.label)).arg(button.code));
+        parts.append(QStringLiteral("%1 %2").arg(qut::toQt(button.label), codeName(button.code)));
     return parts.join(QStringLiteral(", "));
 }
 
@@ -54,7 +66,7 @@ public:
         return chosen;
     }
 
-    std::pair<int, bool> answer{8, true};
+    std::pair<int, bool> answer{wxNO, true};
     std::optional<OdCmColor> chosen;
     mutable QStringList boxes;
     mutable QList<wxWindow*> parents;
@@ -132,6 +144,7 @@ private Q_SLOTS:
     void quickMessageBox_answersWithThePressedButton_data();
     void quickMessageBox_answersWithThePressedButton();
     void quickFaker_answersEveryBoxWithoutShowingUntilUnset();
+    void quickFaker_mayUnsetItselfWhileAnswering();
 
 private:
     QQmlEngine m_engine;
@@ -142,12 +155,12 @@ void tst_DialogFactory::buttonsFromButtonStyle_givesTheRowsOfTheStyle_data()
     QTest::addColumn<int>("style");
     QTest::addColumn<QString>("buttons");
 
-    QTest::newRow("Ok") << 0 << "&OK 4";
-    QTest::newRow("OkCancel") << 1 << "&OK 4, &Cancel 16";
-    QTest::newRow("YesNo") << 2 << "&Yes 2, &No 8";
-    QTest::newRow("YesNoCancel") << 3 << "&Yes 2, &No 8, &Cancel 16";
-    QTest::newRow("7 is Ok") << 7 << "&OK 4";
-    QTest::newRow("-1 is Ok") << -1 << "&OK 4";
+    QTest::newRow("Ok") << 0 << "&OK wxOK";
+    QTest::newRow("OkCancel") << 1 << "&OK wxOK, &Cancel wxCANCEL";
+    QTest::newRow("YesNo") << 2 << "&Yes wxYES, &No wxNO";
+    QTest::newRow("YesNoCancel") << 3 << "&Yes wxYES, &No wxNO, &Cancel wxCANCEL";
+    QTest::newRow("7 is Ok") << 7 << "&OK wxOK";
+    QTest::newRow("-1 is Ok") << -1 << "&OK wxOK";
 }
 
 void tst_DialogFactory::buttonsFromButtonStyle_givesTheRowsOfTheStyle()
@@ -167,16 +180,16 @@ void tst_DialogFactory::helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtra
     const auto answered = [](int code) { return std::pair<int, bool>(code, true); };
     QTest::newRow("info") << MessageCall([=](const IDialogFactory& factory, wxWindow* parent) {
         return answered(factory.showInfoMessage("T", "M", parent, YesNo));
-    }) << true << "T|M||0|&Yes 2, &No 8";
+    }) << true << "T|M||0|&Yes wxYES, &No wxNO";
     QTest::newRow("warning") << MessageCall([=](const IDialogFactory& factory, wxWindow* parent) {
         return answered(factory.showWarningMessage("T", "M", parent, OkCancel));
-    }) << true << "T|M||1|&OK 4, &Cancel 16";
+    }) << true << "T|M||1|&OK wxOK, &Cancel wxCANCEL";
     QTest::newRow("error, defaults") << MessageCall([=](const IDialogFactory& factory, wxWindow*) {
         return answered(factory.showErrorMessage("T", "M"));
-    }) << false << "T|M||3|&OK 4";
+    }) << false << "T|M||3|&OK wxOK";
     QTest::newRow("extra text, whole pair") << MessageCall([](const IDialogFactory& factory, wxWindow* parent) {
         return factory.showMessage("T", "M", "More", Info, OkCancel, parent);
-    }) << true << "T|M|More|0|&OK 4, &Cancel 16";
+    }) << true << "T|M|More|0|&OK wxOK, &Cancel wxCANCEL";
 }
 
 void tst_DialogFactory::helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtraText()
@@ -186,11 +199,11 @@ void tst_DialogFactory::helpers_makeOneAbstractCallWithStyleButtonsAndEmptyExtra
     QFETCH(QString, box);
 
     RecordingFactory factory(m_engine);
-    factory.answer = {8, true};
+    factory.answer = {wxNO, true};
     int parentStandIn = 0;
     auto* parent = reinterpret_cast<wxWindow*>(&parentStandIn);
 
-    QCOMPARE(call(factory, parent), (std::pair<int, bool>(8, true)));
+    QCOMPARE(call(factory, parent), (std::pair<int, bool>(wxNO, true)));
     QCOMPARE(factory.boxes, QStringList{box});
     QCOMPARE(factory.parents, QList<wxWindow*>{passesParent ? parent : nullptr});
 }
@@ -226,7 +239,7 @@ void tst_DialogFactory::errorAndMessageDialogs_reachTheApplicationsFactoryOnlyWh
     showErrorDialog(wxS("Disk full"));
     showMessageDialog(wxS("Saved"));
 
-    QCOMPARE(factory.boxes, (QStringList{"Error|Disk full||3|&OK 4", "Info|Saved||0|&OK 4"}));
+    QCOMPARE(factory.boxes, (QStringList{"Error|Disk full||3|&OK wxOK", "Info|Saved||0|&OK wxOK"}));
     QCOMPARE(factory.parents, (QList<wxWindow*>{nullptr, nullptr}));
 }
 
@@ -240,11 +253,11 @@ void tst_DialogFactory::baseFaker_destroysTheFunctionWithoutCallingIt()
     factory.IDialogFactory::setupMessageBoxFaker(
         [token = std::move(token), &called](const wxString&, const wxString&, int, wxWindow*) {
             called = true;
-            return 2;
+            return wxYES;
         });
 
     QVERIFY(watch.expired());
-    QCOMPARE(factory.showInfoMessage("T", "M"), 8);
+    QCOMPARE(factory.showInfoMessage("T", "M"), wxNO);
     QVERIFY(!called);
 }
 
@@ -257,13 +270,14 @@ void tst_DialogFactory::quickMessageBox_answersWithThePressedButton_data()
     QTest::addColumn<bool>("pressed");
     QTest::addColumn<QString>("seen");
 
-    const MessageButtons cancelFirst{{"&Cancel", 16}, {"&Retry", 32}};
-    QTest::newRow("No, with details") << buttonsFromButtonStyle(YesNoCancel) << "Details" << 1 << 8 << true
+    const MessageButtons cancelFirst{{"&Cancel", wxCANCEL}, {"&Retry", 32}};
+    QTest::newRow("No, with details") << buttonsFromButtonStyle(YesNoCancel) << "Details" << 1 << wxNO << true
                                       << "Title|Message|Details|&Yes,&No,&Cancel";
-    QTest::newRow("closed, Cancel's code") << cancelFirst << "" << -1 << 16 << false << "Title|Message||&Cancel,&Retry";
+    QTest::newRow("closed, Cancel's code")
+        << cancelFirst << "" << -1 << wxCANCEL << false << "Title|Message||&Cancel,&Retry";
     QTest::newRow("closed, last button's code")
-        << buttonsFromButtonStyle(YesNo) << "" << -1 << 8 << false << "Title|Message||&Yes,&No";
-    QTest::newRow("no buttons, OK") << MessageButtons() << "" << -1 << 4 << false << "Title|Message||&OK";
+        << buttonsFromButtonStyle(YesNo) << "" << -1 << wxNO << false << "Title|Message||&Yes,&No";
+    QTest::newRow("no buttons, OK") << MessageButtons() << "" << -1 << wxOK << false << "Title|Message||&OK";
 }
 
 void tst_DialogFactory::quickMessageBox_answersWithThePressedButton()
@@ -296,19 +310,37 @@ void tst_DialogFactory::quickFaker_answersEveryBoxWithoutShowingUntilUnset()
                              .arg(qut::toQt(title), qut::toQt(message))
                              .arg(style)
                              .arg(shownMessageBox() ? "shown" : "hidden"));
-            return 2;
+            return wxYES;
         });
 
     showErrorDialog(wxS("Disk full"));
-    QCOMPARE(host.dialogFactory().showWarningMessage("Replace?", "It exists", nullptr, YesNo), 2);
+    QCOMPARE(host.dialogFactory().showWarningMessage("Replace?", "It exists", nullptr, YesNo), wxYES);
     QCOMPARE(asked, (QStringList{"Error|Disk full|3|hidden", "Replace?|It exists|1|hidden"}));
 
     host.dialogFactory().unsetMessageBoxFaker();
     QString shown;
     answerWhenShown(shown, 0);
-    QCOMPARE(host.dialogFactory().showInfoMessage("Done", "Saved"), 4);
+    QCOMPARE(host.dialogFactory().showInfoMessage("Done", "Saved"), wxOK);
     QCOMPARE(shown, QStringLiteral("Done|Saved||&OK"));
     QCOMPARE(asked.size(), 2);
+}
+
+void tst_DialogFactory::quickFaker_mayUnsetItselfWhileAnswering()
+{
+    quickhost::QuickHost host(QStringList{qmlImportDir()});
+    quickhost::QuickDialogFactory& factory = host.dialogFactory();
+    // Answers one box, then lets them show: its captures are read after it has unset itself.
+    factory.setupMessageBoxFaker(
+        [&factory, answers = std::vector<int>{wxYES}](const wxString&, const wxString&, int, wxWindow*) {
+            factory.unsetMessageBoxFaker();
+            return answers.front();
+        });
+
+    QCOMPARE(factory.showWarningMessage("Replace?", "It exists", nullptr, YesNo), wxYES);
+    QString shown;
+    answerWhenShown(shown, 1);
+    QCOMPARE(factory.showWarningMessage("Replace?", "It exists", nullptr, YesNo), wxNO);
+    QCOMPARE(shown, QStringLiteral("Replace?|It exists||&Yes,&No"));
 }
 
 QTEST_MAIN(tst_DialogFactory)

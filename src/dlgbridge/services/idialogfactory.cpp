@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <QInputDialog>
 
+#include <wx/defs.h>
 #include <wx/translation.h>
 
 #include <oa/OaApp.h>
@@ -18,12 +19,7 @@ OdString translated(const wxString& text)
     const wxTranslations* translations = wxTranslations::Get();
     const wxString* translation = translations ? translations->GetTranslatedString(text) : nullptr;
     const wxString& result = translation ? *translation : wxTranslations::GetUntranslatedString(text);
-    return OdString(result.wc_str());
-}
-
-OdString toOd(const wxString& text)
-{
-    return OdString(text.wc_str());
+    return qut::odFromWx(result);
 }
 
 // An application may come without a factory; it gets no boxes then either.
@@ -90,10 +86,10 @@ std::optional<wxColour> IDialogFactory::dlgColor(wxWindow* parent, const wxColou
 
 std::vector<MessageButtonInfo> buttonsFromButtonStyle(MessageButtonStyle style)
 {
-    const auto ok = [] { return MessageButtonInfo{translated(wxS("&OK")), 4}; };
-    const auto cancel = [] { return MessageButtonInfo{translated(wxS("&Cancel")), 16}; };
-    const auto yes = [] { return MessageButtonInfo{translated(wxS("&Yes")), 2}; };
-    const auto no = [] { return MessageButtonInfo{translated(wxS("&No")), 8}; };
+    const auto ok = [] { return MessageButtonInfo{translated(wxS("&OK")), wxOK}; };
+    const auto cancel = [] { return MessageButtonInfo{translated(wxS("&Cancel")), wxCANCEL}; };
+    const auto yes = [] { return MessageButtonInfo{translated(wxS("&Yes")), wxYES}; };
+    const auto no = [] { return MessageButtonInfo{translated(wxS("&No")), wxNO}; };
     switch (style) {
     case OkCancel: return {ok(), cancel()};
     case YesNo: return {yes(), no()};
@@ -106,13 +102,13 @@ std::vector<MessageButtonInfo> buttonsFromButtonStyle(MessageButtonStyle style)
 void showErrorDialog(const wxString& message)
 {
     if (const IDialogFactory* factory = applicationFactory())
-        factory->showErrorMessage(translated(wxS("Error")), toOd(message), nullptr, Ok);
+        factory->showErrorMessage(translated(wxS("Error")), qut::odFromWx(message), nullptr, Ok);
 }
 
 void showMessageDialog(const wxString& message)
 {
     if (const IDialogFactory* factory = applicationFactory())
-        factory->showInfoMessage(translated(wxS("Info")), toOd(message), nullptr, Ok);
+        factory->showInfoMessage(translated(wxS("Info")), qut::odFromWx(message), nullptr, Ok);
 }
 
 wxString qwxGetTextFromUser(const wxString& message, const wxString& caption)

@@ -28,8 +28,8 @@ struct MessageButtonInfo
     std::int32_t code = 0;
 };
 
-// The buttons of a message box. Their codes are wx's button flags (wxOK 4,
-// wxYES 2, wxNO 8, wxCANCEL 16), not the wxID_ values dialogs return.
+// The buttons of a message box. Their codes are wx's button flags (wxOK,
+// wxYES, wxNO, wxCANCEL), not the wxID_ values dialogs return.
 enum MessageButtonStyle : std::int32_t {
     Ok = 0,
     OkCancel = 1,

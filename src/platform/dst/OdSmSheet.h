@@ -2,7 +2,7 @@
 
 #include <oda/OdString.h>
 
-// Stand-in for the ODA sheet set manager's sheet. Only its name is modelled.
+// Stand-in for a sheet of the CAD SDK's sheet set manager. Only its name is modelled.
 namespace dst {
 
 class OdSmSheet

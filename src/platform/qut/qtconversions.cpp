@@ -2,6 +2,15 @@
 
 namespace qut {
 
+namespace {
+
+OdString odFromWide(const std::wstring& wide)
+{
+    return OdString(wide.c_str(), static_cast<int>(wide.size()));
+}
+
+} // namespace
+
 QString toQt(const OdString& text)
 {
     return QString::fromWCharArray(text.c_str(), text.getLength());
@@ -24,10 +33,19 @@ wxString wxFromQt(const QString& text)
     return wxString(text.toStdWString());
 }
 
+wxString wxFromOd(const OdString& text)
+{
+    return wxString(text.c_str(), static_cast<size_t>(text.getLength()));
+}
+
 OdString odFromQt(const QString& text)
 {
-    const std::wstring wide = text.toStdWString();
-    return OdString(wide.c_str(), static_cast<int>(wide.size()));
+    return odFromWide(text.toStdWString());
+}
+
+OdString odFromWx(const wxString& text)
+{
+    return odFromWide(text.ToStdWstring());
 }
 
 QImage convertImage(const wxImage& image)

@@ -19,7 +19,9 @@ QString toQt(const wxString& text);
 QColor toQt(const wxColour& colour);
 
 wxString wxFromQt(const QString& text);
+wxString wxFromOd(const OdString& text);
 OdString odFromQt(const QString& text);
+OdString odFromWx(const wxString& text);
 
 // A copy of the image, with its alpha channel where it has one; null for an invalid image.
 QImage convertImage(const wxImage& image);

@@ -1,0 +1,7 @@
+#include "dialogfactoryadapter.h"
+
+namespace dbr {
+
+DialogFactoryAdapter::~DialogFactoryAdapter() = default;
+
+} // namespace dbr

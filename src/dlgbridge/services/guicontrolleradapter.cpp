@@ -1,0 +1,7 @@
+#include "guicontrolleradapter.h"
+
+namespace dbr {
+
+GuiControllerAdapter::~GuiControllerAdapter() = default;
+
+} // namespace dbr
