@@ -1,0 +1,555 @@
+#include "calls.h"
+
+#include "randomqml.h"
+#include "rng.h"
+
+#include <dlgbridge/controls/choicelistmodel.h>
+#include <dlgbridge/controls/qwxbitmapbutton.h>
+#include <dlgbridge/controls/qwxbutton.h>
+#include <dlgbridge/controls/qwxcheckbox.h>
+#include <dlgbridge/controls/qwxchoice.h>
+#include <dlgbridge/controls/qwxcombobox.h>
+#include <dlgbridge/controls/qwxgauge.h>
+#include <dlgbridge/controls/qwxradiobutton.h>
+#include <dlgbridge/controls/qwxsearchctrl.h>
+#include <dlgbridge/controls/qwxspinctrl.h>
+#include <dlgbridge/controls/qwxstaticbitmap.h>
+#include <dlgbridge/controls/qwxstatictext.h>
+#include <dlgbridge/controls/qwxtextctrl.h>
+#include <dlgbridge/controls/qwxtogglebutton.h>
+#include <dlgbridge/core/ieventhandler.h>
+#include <dlgbridge/core/ivalidator.h>
+#include <dlgbridge/core/qmlchildlist.h>
+#include <dlgbridge/core/qwxclientdata.h>
+#include <dlgbridge/hosting/qwxpanel.h>
+
+#include <QAbstractItemModelTester>
+#include <QObject>
+
+#include <wx/bitmap.h>
+#include <wx/event.h>
+#include <wx/image.h>
+
+#include <qut/qtconversions.h>
+#include <qut/stringlistmodel.h>
+
+#include <vector>
+
+namespace dbr::stress {
+
+namespace {
+
+template<typename Window>
+using Calls = std::vector<void (*)(Window&, const CallContext&)>;
+
+wxString anyText(Rng& rng)
+{
+    return qut::wxFromQt(rng.text());
+}
+
+OdString anyName(Rng& rng)
+{
+    return qut::odFromQt(lookupName(rng));
+}
+
+wxArrayString anyTexts(Rng& rng)
+{
+    wxArrayString texts;
+    for (int count = rng.below(4); count > 0; --count)
+        texts.Add(anyText(rng));
+    return texts;
+}
+
+wxBitmap anyBitmap(Rng& rng)
+{
+    if (rng.percent(20))
+        return wxBitmap();
+    wxImage image(1 + rng.below(8), 1 + rng.below(8));
+    if (rng.percent(50))
+        image.InitAlpha();
+    return wxBitmap(image);
+}
+
+wxColour anyColour(Rng& rng)
+{
+    return rng.percent(20) ? wxColour() : wxColour(rng.below(256), rng.below(256), rng.below(256));
+}
+
+// A validator whose transfers read its control, as dialog code's do.
+class ReadingValidator : public IValidator
+{
+public:
+    bool TransferToWindow() override { return read(); }
+    bool TransferFromWindow() override { return read(); }
+    IValidator* clone() const override { return new ReadingValidator(*this); }
+
+private:
+    bool read() const { return control() && control()->IsShown(); }
+};
+
+// Every list model a wrapper hands to QML is checked while it changes; the
+// tester lives as long as the model.
+void watch(QAbstractItemModel& model)
+{
+    if (!model.findChild<QAbstractItemModelTester*>())
+        new QAbstractItemModelTester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal, &model);
+}
+
+template<typename Window>
+const Calls<Window>& callsOf();
+
+template<>
+const Calls<qwxWindow>& callsOf()
+{
+    static const Calls<qwxWindow> calls{
+        [](qwxWindow& w, const CallContext& c) { w.Enable(c.rng.percent(50)); },
+        [](qwxWindow& w, const CallContext&) { w.Disable(); },
+        [](qwxWindow& w, const CallContext& c) { w.Show(c.rng.percent(50)); },
+        [](qwxWindow& w, const CallContext&) { w.Hide(); },
+        [](qwxWindow& w, const CallContext&) { (void)(w.IsShown() && w.IsEnabled()); },
+        [](qwxWindow& w, const CallContext&) { w.SetFocus(); },
+        [](qwxWindow& w, const CallContext& c) { w.SetBackgroundColour(anyColour(c.rng)); },
+        [](qwxWindow& w, const CallContext&) { w.GetBackgroundColour(); },
+        [](qwxWindow& w, const CallContext&) {
+            w.GetName();
+            w.typeName();
+            w.bindControlName();
+        },
+        [](qwxWindow& w, const CallContext& c) { w.FindWindow(anyName(c.rng)); },
+        [](qwxWindow& w, const CallContext&) { w.TransferDataToWindow(); },
+        [](qwxWindow& w, const CallContext&) { w.TransferDataFromWindow(); },
+        [](qwxWindow& w, const CallContext&) { w.SetValidator(ReadingValidator()); },
+        [](qwxWindow& w, const CallContext& c) { w.Refresh(c.rng.percent(50)); },
+        [](qwxWindow& w, const CallContext&) {
+            w.findObject();
+            w.models();
+            w.wx();
+        },
+        [](qwxWindow& w, const CallContext& c) {
+            w.qmlChildren(c.rng.percent(50) ? qwxWindow::UseParentList : qwxWindow::OwnListOnly);
+        },
+        [](qwxWindow& w, const CallContext&) {
+            w.GetSizer();
+            w.GetWindowStyle();
+            w.SetWindowStyle(-1);
+            w.ScreenToClient(wxPoint(-1, -1));
+            w.Layout();
+        },
+        [](qwxWindow& w, const CallContext& c) {
+            w.PushEventHandler(c.rng.percent(50) ? new IEventHandler : nullptr);
+            w.PopEventHandler(true);
+        },
+        [](qwxWindow& w, const CallContext& c) {
+            negociateSpacerSize(c.rng.percent(10) ? nullptr : &w, 3, c.rng.percent(50));
+            forceLayoutRecalculation(&w);
+            getWindowTypeName(w);
+        },
+        [](qwxWindow& w, const CallContext& c) {
+            static const std::vector<std::string> names{
+                "text", "checked", "currentIndex", "model", "nothing", "parent", "visible", "", "objectName"};
+            const std::vector<QVariant> values{QVariant(), QVariant(c.rng.index()), QVariant(c.rng.text()),
+                                               QVariant(QStringList{"p", "q"}), QVariant(true)};
+            const std::string& name = c.rng.pick(names);
+            if (c.rng.percent(50))
+                w.setQmlProperty(name, c.rng.pick(values));
+            else
+                w.getQmlProperty(name);
+        },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxControl>& callsOf()
+{
+    static const Calls<qwxControl> calls{
+        [](qwxControl& w, const CallContext&) { w.GetValidator(); },
+        [](qwxControl& w, const CallContext&) { w.GetContainingSizer(); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxTextCtrl>& callsOf()
+{
+    static const Calls<qwxTextCtrl> calls{
+        [](qwxTextCtrl& w, const CallContext& c) { w.SetValue(anyText(c.rng)); },
+        [](qwxTextCtrl& w, const CallContext& c) { w.ChangeValue(anyText(c.rng)); },
+        [](qwxTextCtrl& w, const CallContext& c) { w.SetSelection(c.rng.index(), c.rng.index()); },
+        [](qwxTextCtrl& w, const CallContext&) {
+            w.GetValue();
+            w.GetStringSelection();
+            w.GetInsertionPoint();
+            w.GetLastPosition();
+            w.IsModified();
+        },
+        [](qwxTextCtrl& w, const CallContext& c) {
+            long from = 0;
+            long to = 0;
+            w.GetSelection(c.rng.percent(30) ? nullptr : &from, c.rng.percent(30) ? nullptr : &to);
+        },
+        [](qwxTextCtrl& w, const CallContext& c) { w.SetInsertionPoint(c.rng.index()); },
+        [](qwxTextCtrl& w, const CallContext& c) { w.ShowPosition(c.rng.index()); },
+        [](qwxTextCtrl& w, const CallContext& c) {
+            const int type = c.rng.percent(60) ? int(wxEVT_KILL_FOCUS) : int(wxEVT_SET_FOCUS);
+            w.Connect(type, c.handler<qwxFocusEvent>());
+        },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxSearchCtrl>& callsOf()
+{
+    static const Calls<qwxSearchCtrl> calls{
+        [](qwxSearchCtrl& w, const CallContext& c) { w.SetDescriptiveText(anyText(c.rng)); },
+        [](qwxSearchCtrl& w, const CallContext& c) { w.SetValue(anyText(c.rng)); },
+        [](qwxSearchCtrl& w, const CallContext& c) { w.ChangeValue(anyText(c.rng)); },
+        [](qwxSearchCtrl& w, const CallContext&) { w.GetValue(); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxCheckBox>& callsOf()
+{
+    static const Calls<qwxCheckBox> calls{
+        [](qwxCheckBox& w, const CallContext& c) { w.SetValue(c.rng.percent(50)); },
+        [](qwxCheckBox& w, const CallContext&) { (void)(w.GetValue() && w.IsChecked()); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxRadioButton>& callsOf()
+{
+    static const Calls<qwxRadioButton> calls{
+        [](qwxRadioButton& w, const CallContext& c) { w.SetValue(c.rng.percent(50)); },
+        [](qwxRadioButton& w, const CallContext&) { w.GetValue(); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxButton>& callsOf()
+{
+    static const Calls<qwxButton> calls{
+        [](qwxButton& w, const CallContext& c) { w.SetLabel(anyText(c.rng)); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxBitmapButton>& callsOf()
+{
+    static const Calls<qwxBitmapButton> calls{
+        [](qwxBitmapButton& w, const CallContext& c) { w.setBitmap(anyBitmap(c.rng)); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxStaticText>& callsOf()
+{
+    static const Calls<qwxStaticText> calls{
+        [](qwxStaticText& w, const CallContext& c) { w.SetLabel(anyText(c.rng)); },
+        [](qwxStaticText& w, const CallContext&) { w.GetLabel(); },
+        [](qwxStaticText& w, const CallContext& c) { w.SetForegroundColour(anyColour(c.rng)); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxToggleButton>& callsOf()
+{
+    static const Calls<qwxToggleButton> calls{
+        [](qwxToggleButton& w, const CallContext& c) { w.SetActiveChoice(c.rng.index()); },
+        [](qwxToggleButton& w, const CallContext&) { w.GetActiveChoice(); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxSpinCtrl>& callsOf()
+{
+    static const Calls<qwxSpinCtrl> calls{
+        [](qwxSpinCtrl& w, const CallContext& c) { w.SetValue(c.rng.index()); },
+        [](qwxSpinCtrl& w, const CallContext&) { w.GetValue(); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxStaticBitmap>& callsOf()
+{
+    static const Calls<qwxStaticBitmap> calls{
+        [](qwxStaticBitmap& w, const CallContext& c) { w.setBitmap(anyBitmap(c.rng)); },
+        [](qwxStaticBitmap& w, const CallContext& c) { w.setIcon(anyText(c.rng)); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxGauge>& callsOf()
+{
+    static const Calls<qwxGauge> calls{
+        [](qwxGauge& w, const CallContext& c) { w.SetRange(c.rng.index()); },
+        [](qwxGauge& w, const CallContext& c) { w.SetValue(c.rng.index()); },
+        [](qwxGauge& w, const CallContext&) { (void)(w.GetValue() + w.GetRange()); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxChoice>& callsOf()
+{
+    static const Calls<qwxChoice> calls{
+        [](qwxChoice& w, const CallContext& c) { w.Select(c.rng.index()); },
+        [](qwxChoice& w, const CallContext& c) { w.SetSelection(c.rng.index()); },
+        [](qwxChoice& w, const CallContext&) {
+            w.GetSelection();
+            w.GetStringSelection();
+            w.GetValue();
+            w.GetStrings();
+            w.GetCount();
+        },
+        [](qwxChoice& w, const CallContext& c) { w.SetString(c.rng.index(), anyText(c.rng)); },
+        [](qwxChoice& w, const CallContext& c) { w.FindString(anyText(c.rng)); },
+        [](qwxChoice& w, const CallContext&) { w.Clear(); },
+        [](qwxChoice& w, const CallContext& c) { w.Append(anyTexts(c.rng)); },
+        [](qwxChoice& w, const CallContext& c) { w.Append(anyText(c.rng)); },
+        [](qwxChoice& w, const CallContext& c) { w.AppendString(anyText(c.rng)); },
+        [](qwxChoice& w, const CallContext& c) { w.Insert(c.rng.index(), anyTexts(c.rng)); },
+        [](qwxChoice& w, const CallContext& c) { w.Insert(c.rng.index(), anyText(c.rng)); },
+        [](qwxChoice& w, const CallContext& c) { w.InsertString(c.rng.index(), anyText(c.rng)); },
+        [](qwxChoice& w, const CallContext& c) { w.Delete(c.rng.index()); },
+        [](qwxChoice& w, const CallContext& c) { w.Set(anyTexts(c.rng)); },
+        [](qwxChoice& w, const CallContext& c) {
+            w.Append(anyText(c.rng), c.rng.percent(20) ? nullptr : new qwxStringClientData("data"));
+        },
+        [](qwxChoice& w, const CallContext& c) { w.Insert(anyText(c.rng), c.rng.index(), new VoidClientData(&w)); },
+        [](qwxChoice& w, const CallContext& c) { w.GetClientObject(c.rng.index()); },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxComboBox>& callsOf()
+{
+    static const Calls<qwxComboBox> calls{
+        [](qwxComboBox& w, const CallContext&) { w.GetValue(); },
+        [](qwxComboBox& w, const CallContext& c) { w.SetValue(anyText(c.rng)); },
+        [](qwxComboBox& w, const CallContext&) { w.GetSelection(); },
+        [](qwxComboBox& w, const CallContext& c) { w.Select(c.rng.index()); },
+        [](qwxComboBox& w, const CallContext& c) { w.SetSelection(c.rng.index()); },
+        [](qwxComboBox& w, const CallContext& c) { w.FindString(anyText(c.rng), c.rng.percent(50)); },
+        [](qwxComboBox& w, const CallContext& c) { w.Append(anyText(c.rng)); },
+        [](qwxComboBox& w, const CallContext& c) { w.AppendString(anyText(c.rng)); },
+        [](qwxComboBox& w, const CallContext& c) {
+            wxSortedArrayString texts;
+            for (const wxString& text : anyTexts(c.rng))
+                texts.Add(text);
+            w.Append(texts);
+        },
+        [](qwxComboBox& w, const CallContext&) { w.Clear(); },
+        [](qwxComboBox& w, const CallContext& c) { w.Set(anyTexts(c.rng)); },
+    };
+    return calls;
+}
+
+// Reparenting is left to the run, which knows who outlives whom.
+template<>
+const Calls<qwxPanel>& callsOf()
+{
+    static const Calls<qwxPanel> calls{
+        [](qwxPanel& w, const CallContext& c) { w.init(lookupName(c.rng)); },
+        [](qwxPanel& w, const CallContext& c) { wut::loadPanel(&w, lookupName(c.rng)); },
+        [](qwxPanel& w, const CallContext&) { w.root(); },
+    };
+    return calls;
+}
+
+void watchModelOf(qwxWindow& window)
+{
+    if (auto* choice = dynamic_cast<qwxChoice*>(&window))
+        watch(choice->model());
+    else if (auto* combo = dynamic_cast<qwxComboBox*>(&window))
+        watch(combo->model());
+}
+
+template<typename Window>
+bool callAs(qwxWindow& window, const CallContext& context)
+{
+    auto* typed = dynamic_cast<Window*>(&window);
+    if (!typed)
+        return false;
+    context.rng.pick(callsOf<Window>())(*typed, context);
+    return true;
+}
+
+template<typename Window>
+void lookUpAs(QmlChildList& list, const OdString& name)
+{
+    list.child<Window>(name);
+}
+
+// The wrapper kinds: a call goes to the first the window is.
+template<typename... Kinds>
+struct KindList
+{
+    static bool call(qwxWindow& window, const CallContext& context) { return (callAs<Kinds>(window, context) || ...); }
+
+    static void lookUp(QmlChildList& list, const OdString& name, Rng& rng)
+    {
+        static const std::vector<void (*)(QmlChildList&, const OdString&)> lookups{&lookUpAs<Kinds>...};
+        rng.pick(lookups)(list, name);
+    }
+};
+
+using WrapperKinds =
+    KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton, qwxStaticText,
+             qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxChoice, qwxComboBox, qwxPanel>;
+
+using Connection = void (*)(QmlChildList&, const OdString&, qwxWindow*, const CallContext&);
+
+int anyDialogId(Rng& rng)
+{
+    static const std::vector<int> ids{5100, 5101, 5102, -1, 0, 5001, 12345};
+    return rng.pick(ids);
+}
+
+const std::vector<Connection>& connections()
+{
+    using L = QmlChildList;
+    using E = qwxCommandEvent;
+    static const std::vector<Connection> table{
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToTextAcceptedEvent(n, c.handler<E>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) { l.connectToClickEvent(n, c.handler<E>()); },
+        [](L& l, const OdString&, qwxWindow*, const CallContext& c) {
+            l.connectToClickEvent(anyDialogId(c.rng), c.handler<E>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToRadioButtonEvent(n, c.handler<E>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToToggleButtonEvent(n, c.handler<E>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) { l.connectToCheckBoxEvent(n, c.handler<E>()); },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToNotebookPageChangedEvent(n, c.handler<E>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) { l.connectToMenuEvent(n, c.handler<E>()); },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) { l.connectToTextEvent(n, c.handler<E>()); },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) { l.connectToChoiceEvent(n, c.handler<E>()); },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) { l.connectToComboEvent(n, c.handler<E>()); },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToKeyPressedEvent(n, c.handler<qwxKeyEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToKeyReleasedEvent(n, c.handler<qwxKeyEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToContextMenuEvent(n, c.handler<qwxContextMenuEvent>());
+        },
+        [](L& l, const OdString&, qwxWindow* w, const CallContext& c) {
+            if (w)
+                l.connectToContextMenuEvent(*w, c.handler<qwxContextMenuEvent>());
+        },
+        [](L& l, const OdString&, qwxWindow* w, const CallContext& c) {
+            if (w)
+                l.connectToLeftDoubleClick(*w, c.handler<qwxMouseEvent>());
+        },
+        [](L& l, const OdString&, qwxWindow* w, const CallContext& c) {
+            if (w)
+                l.connectToSizeEvent(*w, c.handler<qwxSizeEvent>());
+        },
+        [](L& l, const OdString&, qwxWindow*, const CallContext& c) {
+            l.connectToDlgResult(anyDialogId(c.rng), c.handler<E>());
+        },
+    };
+    return table;
+}
+
+using ItemCall = void (*)(QObject&, Rng&);
+
+template<typename... Arguments>
+void invoke(QObject& item, const char* method, Arguments... arguments)
+{
+    QMetaObject::invokeMethod(&item, method, Qt::DirectConnection, arguments...);
+}
+
+} // namespace
+
+void callWrapper(qwxWindow& window, const CallContext& context)
+{
+    watchModelOf(window);
+    if (context.rng.percent(40) || !WrapperKinds::call(window, context)) {
+        if (!context.rng.percent(10) || !callAs<qwxControl>(window, context))
+            callAs<qwxWindow>(window, context);
+    }
+}
+
+void lookUpTyped(QmlChildList& list, const OdString& name, Rng& rng)
+{
+    WrapperKinds::lookUp(list, name, rng);
+}
+
+void connectRandomly(QmlChildList& list, const OdString& name, qwxWindow* window, const CallContext& context)
+{
+    context.rng.pick(connections())(list, name, window, context);
+}
+
+void emitOnItem(QObject& item, Rng& rng)
+{
+    static const std::vector<ItemCall> emits{
+        [](QObject& i, Rng&) { invoke(i, "clicked"); },
+        [](QObject& i, Rng&) { invoke(i, "accepted"); },
+        [](QObject& i, Rng&) { invoke(i, "editingFinished"); },
+        [](QObject& i, Rng&) { invoke(i, "textChanged"); },
+        [](QObject& i, Rng&) { invoke(i, "editTextChanged"); },
+        [](QObject& i, Rng&) { invoke(i, "valueModified"); },
+        [](QObject& i, Rng&) { invoke(i, "currentIndexChanged"); },
+        [](QObject& i, Rng&) { invoke(i, "contextMenu"); },
+        [](QObject& i, Rng&) { invoke(i, "doubleClicked"); },
+        [](QObject& i, Rng& r) { invoke(i, "activated", Q_ARG(int, r.index())); },
+        [](QObject& i, Rng& r) { invoke(i, "currentChanged", Q_ARG(int, r.index())); },
+        [](QObject& i, Rng& r) { invoke(i, "menuItemTriggered", Q_ARG(QString, r.text())); },
+        [](QObject& i, Rng& r) {
+            invoke(i, r.percent(50) ? "keyPressed" : "keyReleased", Q_ARG(int, r.index()), Q_ARG(int, r.index()),
+                   Q_ARG(QString, r.text()));
+        },
+        [](QObject& i, Rng& r) {
+            static const std::vector<const char*> methods{"accept",   "reject",    "apply", "toggle", "increase",
+                                                          "decrease", "selectAll", "clear", "undo"};
+            invoke(i, r.pick(methods));
+        },
+        [](QObject& i, Rng& r) { invoke(i, "insert", Q_ARG(int, r.index()), Q_ARG(QString, r.text())); },
+    };
+    rng.pick(emits)(item, rng);
+}
+
+void setOnItem(QObject& item, Rng& rng)
+{
+    static const std::vector<ItemCall> writes{
+        [](QObject& i, Rng& r) { i.setProperty("checked", r.percent(50)); },
+        [](QObject& i, Rng& r) { i.setProperty("currentIndex", r.index()); },
+        [](QObject& i, Rng& r) { i.setProperty("text", r.text()); },
+        [](QObject& i, Rng& r) { i.setProperty("editText", r.text()); },
+        [](QObject& i, Rng& r) { i.setProperty("value", r.index()); },
+        [](QObject& i, Rng& r) { i.setProperty("visible", r.percent(50)); },
+        [](QObject& i, Rng& r) { i.setProperty("width", r.index()); },
+        [](QObject& i, Rng& r) { i.setProperty("editable", r.percent(50)); },
+        // A count of rows, kept small: a view makes an item for each.
+        [](QObject& i, Rng& r) {
+            i.setProperty("model", r.percent(50) ? QVariant(QStringList{"m", "n"}) : QVariant(r.below(5) - 1));
+        },
+        // What the next walk sees: another name, another declared type.
+        [](QObject& i, Rng& r) { i.setObjectName(r.pick(itemNames())); },
+        [](QObject& i, Rng& r) { i.setProperty("qmlType", r.pick(kitTypes())); },
+    };
+    rng.pick(writes)(item, rng);
+}
+
+} // namespace dbr::stress
