@@ -7,10 +7,28 @@
 
 namespace dbr {
 
+namespace {
+
+// Kept on the item by the first wrapper that replaces its model: a later wrapper
+// (a second load, or a second wrapper found by the same name) would otherwise
+// take another wrapper's model for the declared entries.
+constexpr char declaredModelProperty[] = "_dlgbridge_declaredModel";
+
+} // namespace
+
 ModelOnItemBase::ModelOnItemBase(qwxWindow& control)
     : m_control(control)
     , m_declared(control.getQmlProperty("model"))
-{}
+{
+    QObject* item = control.findObjectIfAny();
+    if (!item)
+        return;
+    const QVariant kept = item->property(declaredModelProperty);
+    if (kept.isValid())
+        m_declared = kept;
+    else
+        item->setProperty(declaredModelProperty, m_declared);
+}
 
 QStringList ModelOnItemBase::declaredStrings() const
 {
@@ -19,15 +37,17 @@ QStringList ModelOnItemBase::declaredStrings() const
 
 void ModelOnItemBase::show(QObject* model)
 {
-    m_control.setQmlProperty("model", QVariant::fromValue(model));
+    if (m_control.setQmlProperty("model", QVariant::fromValue(model)))
+        m_showing = m_control.findObjectIfAny();
 }
 
 void ModelOnItemBase::takeBack(const QObject* model)
 {
-    // A vanished item or one showing another model needs nothing back.
-    QObject* item = m_control.findObjectIfAny();
-    if (item && item->property("model").value<QObject*>() == model)
-        item->setProperty("model", m_declared);
+    // The item that got the model, not the one the name finds now: another item
+    // of that name may have come first since. A vanished item, or one showing
+    // another model by now, needs nothing back.
+    if (m_showing && m_showing->property("model").value<QObject*>() == model)
+        m_showing->setProperty("model", m_declared);
 }
 
 } // namespace dbr

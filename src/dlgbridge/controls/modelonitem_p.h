@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QVariant>
 
 #include <memory>
@@ -32,6 +33,8 @@ protected:
 private:
     qwxWindow& m_control;
     QVariant m_declared;
+    // Only for giving the declared entries back; every access searches anew.
+    QPointer<QObject> m_showing;
 };
 
 template<typename Model>

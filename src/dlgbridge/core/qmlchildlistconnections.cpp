@@ -224,7 +224,7 @@ void QmlChildList::connectToNotebookPageChangedEvent(const OdString& name, Event
 
 void QmlChildList::connectToMenuEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
 {
-    const wxString itemString = qut::wxFromQt(qut::toQt(name));
+    const wxString itemString = qut::wxFromOd(name);
     auto onItem = [itemString, handler = std::move(handler)](qwxCommandEvent& event) {
         if (event.GetString().Cmp(itemString) == 0)
             handler(event);

@@ -68,6 +68,14 @@ bool qwxPanel::init(const QString& name)
 
 void qwxPanel::Reparent(qwxWindow& newParent)
 {
+    // Items without a parent in common can still make a circle of wrappers.
+    for (const qwxWindow* ancestor = &newParent; ancestor; ancestor = ancestor->GetParent()) {
+        if (ancestor == this) {
+            qWarning().noquote() << QStringLiteral("(%1) Unable to move the panel into '%2', which it holds")
+                                        .arg(wrappedObjectName(), newParent.wrappedObjectName());
+            return;
+        }
+    }
     QObject* target = newParent.findObject();
     // A panel built on a component with a content item takes its children there.
     if (dynamic_cast<qwxPanel*>(&newParent) && target) {
