@@ -171,6 +171,7 @@ void tst_Choice::combo_searchesThroughTheItem()
     QCOMPARE(path.GetSelection(), -1);
 
     QSignalSpy inserted(&path.model(), &QAbstractItemModel::rowsInserted);
+    QVERIFY(inserted.isValid());
     QCOMPARE(path.Append("gamma"), 2);
     wxSortedArrayString sorted;
     sorted.Add("zeta");

@@ -5,7 +5,6 @@
 #include <wx/bitmap.h>
 #include <wx/string.h>
 
-
 namespace dbr {
 
 class qwxWindow;

@@ -51,12 +51,14 @@ void setText(qwxWindow& control, const wxString& value)
         return;
     QObject* item = control.findObject();
     if (!item) {
-        qWarning().noquote() << QStringLiteral("(%1) Unable to set value: child not found").arg(control.wrappedObjectName());
+        qWarning().noquote()
+            << QStringLiteral("(%1) Unable to set value: child not found").arg(control.wrappedObjectName());
         return;
     }
     QMetaObject::invokeMethod(item, "clear", Qt::AutoConnection);
     if (!value.empty())
-        QMetaObject::invokeMethod(item, "insert", Qt::DirectConnection, Q_ARG(int, 0), Q_ARG(QString, qut::toQt(value)));
+        QMetaObject::invokeMethod(item, "insert", Qt::DirectConnection, Q_ARG(int, 0),
+                                  Q_ARG(QString, qut::toQt(value)));
 }
 
 void changeText(qwxWindow& control, const wxString& value)

@@ -30,32 +30,19 @@ struct StandardId
 
 // The object names that standard buttons must carry, by wx id.
 constexpr StandardId standardIds[] = {
-    {wxID_ANY, "wxID_ANY"},
-    {wxID_CLOSE, "wxID_CLOSE"},
-    {wxID_NEW, "wxID_NEW"},
-    {wxID_SAVE, "wxID_SAVE"},
-    {wxID_HELP, "wxID_HELP"},
-    {wxID_DELETE, "wxID_DELETE"},
-    {wxID_REPLACE, "wxID_REPLACE"},
-    {wxID_OK, "wxID_OK"},
-    {wxID_CANCEL, "wxID_CANCEL"},
-    {wxID_APPLY, "wxID_APPLY"},
-    {wxID_YES, "wxID_YES"},
-    {wxID_NO, "wxID_NO"},
-    {wxID_STATIC, "wxID_STATIC"},
-    {wxID_FORWARD, "wxID_FORWARD"},
-    {wxID_BACKWARD, "wxID_BACKWARD"},
-    {wxID_DEFAULT, "wxID_DEFAULT"},
-    {wxID_MORE, "wxID_MORE"},
-    {wxID_SETUP, "wxID_SETUP"},
-    {wxID_RESET, "wxID_RESET"},
-    {wxID_CONTEXT_HELP, "wxID_CONTEXT_HELP"},
-    {wxID_YESTOALL, "wxID_YESTOALL"},
-    {wxID_NOTOALL, "wxID_NOTOALL"},
-    {wxID_ABORT, "wxID_ABORT"},
-    {wxID_RETRY, "wxID_RETRY"},
-    {wxID_IGNORE, "wxID_IGNORE"},
-    {wxID_ADD, "wxID_ADD"},
+    {wxID_ANY, "wxID_ANY"},           {wxID_CLOSE, "wxID_CLOSE"},
+    {wxID_NEW, "wxID_NEW"},           {wxID_SAVE, "wxID_SAVE"},
+    {wxID_HELP, "wxID_HELP"},         {wxID_DELETE, "wxID_DELETE"},
+    {wxID_REPLACE, "wxID_REPLACE"},   {wxID_OK, "wxID_OK"},
+    {wxID_CANCEL, "wxID_CANCEL"},     {wxID_APPLY, "wxID_APPLY"},
+    {wxID_YES, "wxID_YES"},           {wxID_NO, "wxID_NO"},
+    {wxID_STATIC, "wxID_STATIC"},     {wxID_FORWARD, "wxID_FORWARD"},
+    {wxID_BACKWARD, "wxID_BACKWARD"}, {wxID_DEFAULT, "wxID_DEFAULT"},
+    {wxID_MORE, "wxID_MORE"},         {wxID_SETUP, "wxID_SETUP"},
+    {wxID_RESET, "wxID_RESET"},       {wxID_CONTEXT_HELP, "wxID_CONTEXT_HELP"},
+    {wxID_YESTOALL, "wxID_YESTOALL"}, {wxID_NOTOALL, "wxID_NOTOALL"},
+    {wxID_ABORT, "wxID_ABORT"},       {wxID_RETRY, "wxID_RETRY"},
+    {wxID_IGNORE, "wxID_IGNORE"},     {wxID_ADD, "wxID_ADD"},
     {wxID_REMOVE, "wxID_REMOVE"},
 };
 
@@ -238,8 +225,10 @@ void QmlChildList::connectToTextEvent(const OdString& name, EventHandler<qwxComm
     const char* comboSignal = "2editTextChanged()";
     const char* textSignal = "2textChanged()";
     if (qut::toQt(name) == wxIdAny) {
-        connectCommand(comboSignal, "1onEvent()", name, handler, {QStringLiteral("qwxComboBox")}, valueevents::textValue);
-        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {QStringLiteral("qwxTextCtrl")}, valueevents::textValue);
+        connectCommand(comboSignal, "1onEvent()", name, handler, {QStringLiteral("qwxComboBox")},
+                       valueevents::textValue);
+        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {QStringLiteral("qwxTextCtrl")},
+                       valueevents::textValue);
         return;
     }
     // An unknown name takes the text path, whose refusal logs why.
@@ -250,31 +239,32 @@ void QmlChildList::connectToTextEvent(const OdString& name, EventHandler<qwxComm
     else if (type == QStringLiteral("qwxSpinCtrl"))
         connectCommand("2valueModified()", "1onEvent()", name, std::move(handler), {type}, valueevents::textValue);
     else
-        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {QStringLiteral("qwxTextCtrl")}, valueevents::textValue);
+        connectCommand(textSignal, "1onEvent()", name, std::move(handler), {QStringLiteral("qwxTextCtrl")},
+                       valueevents::textValue);
 }
 
 void QmlChildList::connectToChoiceEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
 {
-    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {QStringLiteral("qwxChoice")}, valueevents::choiceSelection);
+    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {QStringLiteral("qwxChoice")},
+                   valueevents::choiceSelection);
 }
 
 void QmlChildList::connectToComboEvent(const OdString& name, EventHandler<qwxCommandEvent> handler)
 {
-    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {QStringLiteral("qwxComboBox")}, valueevents::textValue);
+    connectCommand("2activated(int)", "1onEvent()", name, std::move(handler), {QStringLiteral("qwxComboBox")},
+                   valueevents::textValue);
 }
 
 void QmlChildList::connectToKeyPressedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler)
 {
-    connectToSignal("2keyPressed(int,int,QString)", name,
-                    plainCallback<QmlKeyCallback>(std::move(handler)), {"qwxTextCtrl"},
-                    "1onKeyPressed(int,int,QString)");
+    connectToSignal("2keyPressed(int,int,QString)", name, plainCallback<QmlKeyCallback>(std::move(handler)),
+                    {"qwxTextCtrl"}, "1onKeyPressed(int,int,QString)");
 }
 
 void QmlChildList::connectToKeyReleasedEvent(const OdString& name, EventHandler<qwxKeyEvent> handler)
 {
-    connectToSignal("2keyReleased(int,int,QString)", name,
-                    plainCallback<QmlKeyCallback>(std::move(handler)), {"qwxTextCtrl"},
-                    "1onKeyPressed(int,int,QString)");
+    connectToSignal("2keyReleased(int,int,QString)", name, plainCallback<QmlKeyCallback>(std::move(handler)),
+                    {"qwxTextCtrl"}, "1onKeyPressed(int,int,QString)");
 }
 
 void QmlChildList::connectToContextMenuEvent(const OdString& name, EventHandler<qwxContextMenuEvent> handler)
@@ -298,8 +288,7 @@ void QmlChildList::connectToSizeEvent(const qwxWindow& window, EventHandler<qwxS
 {
     const OdString name = qut::odFromQt(window.wrappedObjectName());
     const QStringList types{qwxWindow::typeId()};
-    connectToSignal("2widthChanged()", name, plainCallback<QmlSizeCallback>(handler), types,
-                    "1onWidthChanged()");
+    connectToSignal("2widthChanged()", name, plainCallback<QmlSizeCallback>(handler), types, "1onWidthChanged()");
     connectToSignal("2heightChanged()", name, plainCallback<QmlSizeCallback>(std::move(handler)), types,
                     "1onHeightChanged()");
 }

@@ -37,8 +37,14 @@ using CustomTypes = std::map<QString, WrapperFactory>;
 // Gives a wrapper class its type name: typeId() names the class itself,
 // typeName() the dynamic type of an object; both are compared as text.
 #define DBR_WRAPPER_TYPE(Class)                                                                                        \
-    static QString typeId() { return QStringLiteral(#Class); }                                                         \
-    QString typeName() const override { return typeId(); }
+    static QString typeId()                                                                                            \
+    {                                                                                                                  \
+        return QStringLiteral(#Class);                                                                                 \
+    }                                                                                                                  \
+    QString typeName() const override                                                                                  \
+    {                                                                                                                  \
+        return typeId();                                                                                               \
+    }
 
 // Root of every wrapper. A wrapper holds no widget: each access looks its QML
 // item up by object name under root() and reads or writes a property of it.
