@@ -1,9 +1,9 @@
 // The connectTo... family of QmlChildList: QML signals to dialog code's handlers.
 #include "qmlchildlist.h"
 
+#include "itemsearch_p.h"
 #include "logging_p.h"
 #include "qmlcallbacks.h"
-#include "itemsearch_p.h"
 #include "qmlchildlist_p.h"
 #include "wrapperkinds.h"
 
