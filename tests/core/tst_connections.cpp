@@ -260,6 +260,9 @@ void tst_Connections::repopulate_silencesTheItemsOfDyingWrappers()
 
     ui.host.populate();
     QCOMPARE(heard, QStringList{"toggle:twin"});
+    // The connections went with their wrappers.
+    ui.item("twin")->setProperty("currentIndex", 2);
+    QCOMPARE(heard, QStringList{"toggle:twin"});
 }
 
 QTEST_MAIN(tst_Connections)

@@ -1,3 +1,4 @@
+#include <support/logrecorder.h>
 #include <support/qmlfixture.h>
 #include <support/testhost.h>
 
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void init();
     void doLoadContent_runsEachHookOnHostThenChildrenInKeyOrder();
     void doLoadContent_isRefusedWhileTheHostsFlagIsSet();
+    void defaultRules_keepTheWalkAndTheConnectionsQuiet();
 
 private:
     QmlFixture m_qml;
@@ -107,6 +109,15 @@ void tst_ContentLoading::doLoadContent_isRefusedWhileTheHostsFlagIsSet()
         if (auto* control = dynamic_cast<JournalControl*>(&child))
             QVERIFY(!control->eventTableLoaded());
     });
+}
+
+void tst_ContentLoading::defaultRules_keepTheWalkAndTheConnectionsQuiet()
+{
+    TestHost host(m_qml.loadFile(QStringLiteral("controls.qml")));
+    LogRecorder log;
+    host.populate();
+    host.list().connectToClickEvent("wxID_ANY", [](qwxCommandEvent&) {});
+    QCOMPARE(log.lines(), QStringList());
 }
 
 QTEST_MAIN(tst_ContentLoading)

@@ -7,6 +7,7 @@
 #include <dlgbridge/core/qmlchildlist.h>
 #include <dlgbridge/hosting/qwxdialogcontroller.h>
 
+#include <quickhost/quickdialog.h>
 #include <quickhost/quickhost.h>
 
 #include <QPointer>
@@ -34,6 +35,22 @@ public:
     }
 };
 
+// An application that keeps the last dialog it built, so that a test can replace its QML.
+class KeepingController : public quickhost::QuickGuiController
+{
+public:
+    using QuickGuiController::QuickGuiController;
+    std::unique_ptr<IWxQtDialog> createDialog(const QUrl& url, BaseDialogController* controller,
+                                              EResizable resizable, DialogOptions options, wxWindow* parent) override
+    {
+        std::unique_ptr<IWxQtDialog> made = QuickGuiController::createDialog(url, controller, resizable, options, parent);
+        last = dynamic_cast<quickhost::QuickDialog*>(made.get());
+        return made;
+    }
+
+    quickhost::QuickDialog* last = nullptr;
+};
+
 bool loadDialog(qwxDialog& dialog)
 {
     return wut::doLoadDialog(&dialog, nullptr, testDataUrl(QStringLiteral("dialog.qml")), NotResizable, {}, nullptr);
@@ -56,6 +73,7 @@ private Q_SLOTS:
     void init_isRefusedASecondTimeOrWithoutApplicationOrController();
     void showTwice_loadsTwiceUnlessTheFlagIsSet();
     void destroyedBeforeTheLoad_neverLoads();
+    void hostReload_rebindsOnTheNewItems();
     void dialogOnExistingItem_loadsWithoutTheApplication();
     void controller_decidesByReturnCode_data();
     void controller_decidesByReturnCode();
@@ -222,6 +240,32 @@ void tst_QwxDialog::showTwice_loadsTwiceUnlessTheFlagIsSet()
     dialog.reloadContent();
     QCOMPARE(dialog.journal.last(), QStringLiteral("reloadContent"));
     QTRY_COMPARE(dialog.journal.count(QStringLiteral("createDialog")), 2);
+}
+
+void tst_QwxDialog::hostReload_rebindsOnTheNewItems()
+{
+    KeepingController application(m_host->engine());
+    oa::OaApp app(&application, nullptr);
+    oa::OaApp::s_app = &app;
+    TestDialog dialog;
+    QVERIFY(loadDialog(dialog));
+    int clicks = 0;
+    dialog.bind = [&clicks](QmlChildList& list) {
+        list.connectToClickEvent(wxID_APPLY, [&clicks](qwxCommandEvent&) { ++clicks; });
+    };
+    dialog.Show();
+    QTRY_VERIFY(dialog.journal.contains(QStringLiteral("createDialog")));
+    QVERIFY(QMetaObject::invokeMethod(dialog.item("wxID_APPLY"), "clicked"));
+    QCOMPARE(clicks, 1);
+
+    // The application replaces the QML: every wrapper is made and bound anew, over the new items only.
+    dialog.journal.clear();
+    QPointer<QObject> formerItem = dialog.item("wxID_APPLY");
+    application.last->reload();
+    QTRY_COMPARE(dialog.journal, (QStringList{"reloadContent", "resync", "eventTable", "createWindow", "createDialog"}));
+    QVERIFY(formerItem.isNull());
+    QVERIFY(QMetaObject::invokeMethod(dialog.item("wxID_APPLY"), "clicked"));
+    QCOMPARE(clicks, 2);
 }
 
 void tst_QwxDialog::destroyedBeforeTheLoad_neverLoads()
