@@ -1,5 +1,5 @@
 // Opening a dialog (load, wrap, bind handlers, first onInitDialog) against
-// loading the same QML alone in the same engine.
+// loading the same QML in the same engine and handling what it posted.
 #include "support/benchmain.h"
 
 #include <dlgbridge/core/qmlchildlist.h>
