@@ -1,5 +1,8 @@
 #pragma once
 
+// The callback objects of connections, for the library's own rooms: controls
+// connect some of theirs through QmlChildList::connectCallback. Not installed.
+
 #include "qwxevent.h"
 
 #include <QObject>

@@ -15,7 +15,7 @@ namespace dbr {
 class qwxWindow;
 
 // Core knows wrappers only as qwxWindow. The room of the concrete control
-// classes, above core, defines what is declared here.
+// classes, above core, defines what is declared here. Not installed.
 
 // Makes the wrapper of an item; the item is there for types whose wrapper
 // class depends on a property of it.
