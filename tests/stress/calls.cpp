@@ -10,6 +10,7 @@
 #include <dlgbridge/controls/qwxchoice.h>
 #include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
+#include <dlgbridge/controls/qwxmenu.h>
 #include <dlgbridge/controls/qwxradiobutton.h>
 #include <dlgbridge/controls/qwxsearchctrl.h>
 #include <dlgbridge/controls/qwxspinctrl.h>
@@ -357,6 +358,35 @@ const Calls<qwxComboBox>& callsOf()
     return calls;
 }
 
+// An entry is reached only through what Append returns, so a call builds and uses it at once.
+template<>
+const Calls<qwxMenu>& callsOf()
+{
+    static const Calls<qwxMenu> calls{
+        [](qwxMenu& w, const CallContext& c) {
+            qwxMenuItem* sub = c.rng.percent(50) ? w.AppendSubMenu(anyText(c.rng), anyText(c.rng)) : nullptr;
+            if (qwxMenuItem* item = w.Append(qut::wxFromQt(lookupName(c.rng)), anyText(c.rng), sub)) {
+                item->bind(c.handler<qwxCommandEvent>());
+                item->Enable(c.rng.percent(70));
+                if (QObject* entry = item->findObjectIfAny())
+                    QMetaObject::invokeMethod(entry, "trigger");
+            }
+        },
+        [](qwxMenu& w, const CallContext&) { w.AppendSeparator(); },
+        [](qwxMenu& w, const CallContext&) { w.Clear(); },
+        [](qwxMenu& w, const CallContext& c) { w.open(c.rng.percent(50) ? wxDefaultPosition : wxPoint(1, 2)); },
+        [](qwxMenu& w, const CallContext& c) {
+            w.Bind(c.rng.percent(80) ? 8 : c.rng.index(), c.handler<qwxCommandEvent>(), lookupName(c.rng));
+        },
+        [](qwxMenu& w, const CallContext& c) {
+            w.Enable(anyText(c.rng), false);
+            w.SetLabel(anyText(c.rng), anyText(c.rng));
+            (void)(w.FindItem(anyText(c.rng)) || w.GetMenuItemCount());
+        },
+    };
+    return calls;
+}
+
 // Reparenting is left to the run, which knows who outlives whom.
 template<>
 const Calls<qwxPanel>& callsOf()
@@ -408,7 +438,7 @@ struct KindList
 
 using WrapperKinds =
     KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton, qwxStaticText,
-             qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxChoice, qwxComboBox, qwxPanel>;
+             qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxChoice, qwxComboBox, qwxPanel, qwxMenu>;
 
 using Connection = void (*)(QmlChildList&, const OdString&, qwxWindow*, const CallContext&);
 

@@ -5,6 +5,7 @@
 #include <dlgbridge/controls/qwxchoice.h>
 #include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
+#include <dlgbridge/controls/qwxmenu.h>
 #include <dlgbridge/controls/qwxradiobutton.h>
 #include <dlgbridge/controls/qwxsearchctrl.h>
 #include <dlgbridge/controls/qwxspinctrl.h>
@@ -60,6 +61,7 @@ QHash<QString, StandardWrapperFactory> makeTable()
         {QStringLiteral("Pane"), &make<qwxPanel>},
         {QStringLiteral("ComboBox"), &makeCombo},
         {QStringLiteral("ProgressBar"), &make<qwxGauge>},
+        {QStringLiteral("WxConvMenu"), &make<qwxMenu>},
     };
 }
 
