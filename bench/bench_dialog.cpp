@@ -70,23 +70,26 @@ void processEventsUntil(Condition done)
         QCoreApplication::processEvents();
 }
 
-// The application of one benchmark: it must go before the Qt application does.
-struct Application
-{
-    quickhost::QuickHost host{{QStringLiteral(DLGBRIDGE_QML_IMPORT_DIR)}};
-    QQmlEngine& engine() { return host.engine(); }
-};
-
 std::unique_ptr<QQuickItem> loadAlone(QQmlEngine& engine, const QUrl& url)
 {
     QQmlComponent component(&engine, url);
     return std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem*>(component.create()));
 }
 
+// The application of one benchmark, with the file compiled once so that every
+// measured round costs the same: it must go before the Qt application does.
+struct Application
+{
+    explicit Application(const DialogFile& file) { loadAlone(engine(), file.url()); }
+
+    quickhost::QuickHost host{{QStringLiteral(DLGBRIDGE_QML_IMPORT_DIR)}};
+    QQmlEngine& engine() { return host.engine(); }
+};
+
 void openOnItem(benchmark::State& state, int controls)
 {
-    Application application;
     DialogFile file(controls);
+    Application application(file);
     for (auto _ : state) {
         std::unique_ptr<QQuickItem> item = loadAlone(application.engine(), file.url());
         BenchDialog dialog(item.get());
@@ -96,8 +99,8 @@ void openOnItem(benchmark::State& state, int controls)
 
 void loadQml(benchmark::State& state, int controls)
 {
-    Application application;
     DialogFile file(controls);
+    Application application(file);
     for (auto _ : state) {
         std::unique_ptr<QQuickItem> item = loadAlone(application.engine(), file.url());
         // What the QML posted is handled in the one turn of the loop that any opened QML gets.
@@ -107,8 +110,8 @@ void loadQml(benchmark::State& state, int controls)
 
 void openHosted(benchmark::State& state, int controls)
 {
-    Application application;
     DialogFile file(controls);
+    Application application(file);
     for (auto _ : state) {
         BenchDialog dialog;
         wut::doLoadDialog(&dialog, nullptr, file.url(), NotResizable, {}, nullptr);
@@ -119,8 +122,8 @@ void openHosted(benchmark::State& state, int controls)
 
 void showQmlInWindow(benchmark::State& state, int controls)
 {
-    Application application;
     DialogFile file(controls);
+    Application application(file);
     for (auto _ : state) {
         QQuickWindow window;
         std::unique_ptr<QQuickItem> item = loadAlone(application.engine(), file.url());

@@ -135,7 +135,7 @@ void tst_Menu::open_popsUpAtThePointerOrAtThePoint()
     ItemWindow window(m_host->root());
     QCursor::setPos(qobject_cast<QQuickItem*>(m_host->root())->window()->mapToGlobal(QPoint(70, 80)));
     menu().Append("open", "Open", nullptr);
-    menu().open(position);
+    m_host->PopupMenu(&menu(), position);
     QTRY_VERIFY(qmlMenu()->property("opened").toBool());
     QCOMPARE(QPoint(qmlMenu()->property("x").toInt(), qmlMenu()->property("y").toInt()), expected);
 }

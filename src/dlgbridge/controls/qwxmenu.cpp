@@ -176,4 +176,10 @@ void qwxMenu::doBind(int id, std::function<void(qwxCommandEvent&)> handler, cons
     qWarning() << "Did not find a menu item" << itemName << "to connect to";
 }
 
+// A member of the window class, defined here so that core needs no menu.
+void qwxWindow::PopupMenu(qwxMenu* menu, const wxPoint& position)
+{
+    menu->open(position);
+}
+
 } // namespace dbr

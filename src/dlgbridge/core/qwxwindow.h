@@ -24,6 +24,7 @@ namespace dbr {
 class IEventHandler;
 class IValidator;
 class QmlChildList;
+class qwxMenu;
 class qwxSizeEvent;
 class qwxSizer;
 class qwxWindow;
@@ -112,6 +113,8 @@ public:
     void Show(bool show);
     bool IsShown() const;
     void SetFocus();
+    // Defined with qwxMenu, in the room above core.
+    void PopupMenu(qwxMenu* menu, const wxPoint& position);
 
     wxColour GetBackgroundColour() const;
 
