@@ -45,6 +45,7 @@ const std::vector<Declaration>& kitDeclarations()
         {"ComboBox", "model: [\"x\", \"y\", \"z\"]"},
         {"ComboBox", "editable: true; model: [\"x\", \"y\"]"},
         {"ProgressBar", ""},
+        {"TabBar", "pages: [Item {}, Item {}, Item {}]"},
     };
     return declarations;
 }
