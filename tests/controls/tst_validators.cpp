@@ -260,15 +260,12 @@ namespace {
 class FormDialog : public TestDialog
 {
 public:
-    ~FormDialog() override { ++destroyed; }
-
     wxString name = "Ground floor";
     bool snap = true;
     int count = 3;
     int kind = 2;
     // What beforeOk saw of the variables.
     QStringList seenByOk;
-    static int destroyed;
 
     bool beforeOk() override
     {
@@ -283,8 +280,6 @@ public:
         list.FindWindow("kind")->SetValidator(qwxGenericValidator(&kind));
     }
 };
-
-int FormDialog::destroyed = 0;
 
 // The controls' QML as a file, since the application loads dialogs by address.
 QUrl writeDialogQml(const QTemporaryDir& dir)
@@ -338,19 +333,20 @@ void tst_Validators::dialogDestroyed_neverTouchesItsVariablesAgain()
     auto variables = std::make_unique<Variables>();
     auto dialog = std::make_unique<FormDialog>();
     QVERIFY(wut::doLoadDialog(dialog.get(), nullptr, writeDialogQml(dir), NotResizable, {}, nullptr));
+    variables->number = 4;
+    // The member goes with the dialog, the heap variables before it.
     dialog->bind = [&](QmlChildList& list) {
-        dialog->bindValidators(list);
-        list.FindWindow("caption")->SetValidator(qwxGenericValidator(&variables->text));
+        list.FindWindow("name")->SetValidator(qwxTextValidator(wxFILTER_NONE, &dialog->name));
+        list.FindWindow("count")->SetValidator(qwxGenericValidator(&variables->number));
+        list.FindWindow("snap")->SetValidator(qwxGenericValidator(&variables->flag));
     };
     dialog->Show();
     QTRY_VERIFY(dialog->journal.contains(QStringLiteral("createDialog")));
-    QCOMPARE(dialog->item("count")->property("value").toInt(), 3);
+    QCOMPARE(dialog->item("count")->property("value").toInt(), 4);
 
     // Under ASan a transfer into a freed variable or a destroyed member would abort here.
-    const int destroyedBefore = FormDialog::destroyed;
     variables.reset();
     dialog.reset();
-    QCOMPARE(FormDialog::destroyed, destroyedBefore + 1);
     QTest::qWait(10);
 }
 
