@@ -11,6 +11,8 @@
 #include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
 #include <dlgbridge/controls/qwxmenu.h>
+#include <dlgbridge/controls/qwximagelist.h>
+#include <dlgbridge/controls/qwxnotebook.h>
 #include <dlgbridge/controls/qwxradiobutton.h>
 #include <dlgbridge/controls/qwxsearchctrl.h>
 #include <dlgbridge/controls/qwxspinctrl.h>
@@ -302,6 +304,23 @@ const Calls<qwxGauge>& callsOf()
 }
 
 template<>
+const Calls<qwxNotebook>& callsOf()
+{
+    static const Calls<qwxNotebook> calls{
+        [](qwxNotebook& w, const CallContext&) { w.GetSelection(); },
+        [](qwxNotebook& w, const CallContext& c) { w.SetSelection(c.rng.index()); },
+        [](qwxNotebook& w, const CallContext& c) { w.HidePage(c.rng.index()); },
+        [](qwxNotebook& w, const CallContext& c) {
+            auto images = std::make_shared<qwxImageList>(8, 8);
+            images->Add(anyBitmap(c.rng));
+            w.SetImageList(c.rng.percent(20) ? nullptr : images);
+        },
+        [](qwxNotebook& w, const CallContext& c) { w.SetPageImage(c.rng.index(), c.rng.index()); },
+    };
+    return calls;
+}
+
+template<>
 const Calls<qwxChoice>& callsOf()
 {
     static const Calls<qwxChoice> calls{
@@ -438,7 +457,8 @@ struct KindList
 
 using WrapperKinds =
     KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton, qwxStaticText,
-             qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxChoice, qwxComboBox, qwxPanel, qwxMenu>;
+             qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxNotebook, qwxChoice, qwxComboBox, qwxPanel,
+             qwxMenu>;
 
 using Connection = void (*)(QmlChildList&, const OdString&, qwxWindow*, const CallContext&);
 

@@ -6,6 +6,7 @@
 #include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
 #include <dlgbridge/controls/qwxmenu.h>
+#include <dlgbridge/controls/qwxnotebook.h>
 #include <dlgbridge/controls/qwxradiobutton.h>
 #include <dlgbridge/controls/qwxsearchctrl.h>
 #include <dlgbridge/controls/qwxspinctrl.h>
@@ -57,6 +58,7 @@ QHash<QString, StandardWrapperFactory> makeTable()
         {QStringLiteral("ImageAV"), &make<qwxStaticBitmap>},
         {QStringLiteral("SearchField"), &make<qwxSearchCtrl>},
         {QStringLiteral("ImageButton"), &make<qwxBitmapButton>},
+        {QStringLiteral("TabBar"), &make<qwxNotebook>},
         {QStringLiteral("Panel"), &make<qwxPanel>},
         {QStringLiteral("Pane"), &make<qwxPanel>},
         {QStringLiteral("ComboBox"), &makeCombo},
