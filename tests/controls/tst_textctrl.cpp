@@ -26,7 +26,6 @@ private Q_SLOTS:
     void setValue_goesThroughClearAndInsertOnlyForANewText();
     void changeValue_reachesNoHandler_data();
     void changeValue_reachesNoHandler();
-    void selectionAndCursor_followTheItem();
     void style_isOneMessageAndNoEffect();
     void connect_killFocusArrivesWhenEditingFinishes();
 
@@ -41,7 +40,6 @@ void tst_TextCtrl::setValue_goesThroughClearAndInsertOnlyForANewText_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::newRow("text field") << QByteArray("name");
-    QTest::newRow("text area") << QByteArray("notes");
     QTest::newRow("scrollable text area") << QByteArray("log");
 }
 
@@ -97,23 +95,6 @@ void tst_TextCtrl::changeValue_reachesNoHandler()
     // The insert of "typed" and of "loud" are heard, with the text as it stands then.
     QCOMPARE(heard, (QStringList{"typed", "", "loud"}));
     QVERIFY(!item(name.constData())->signalsBlocked());
-}
-
-void tst_TextCtrl::selectionAndCursor_followTheItem()
-{
-    qwxTextCtrl& control = text("name");
-    control.SetValue("hello world");
-    control.SetSelection(6, 11);
-    QCOMPARE(qut::toQt(control.GetStringSelection()), QStringLiteral("world"));
-    long from = -1;
-    long to = -1;
-    control.GetSelection(&from, &to);
-    QCOMPARE(from, 6L);
-    QCOMPARE(to, 11L);
-
-    control.SetInsertionPoint(3);
-    QCOMPARE(control.GetInsertionPoint(), 3L);
-    QCOMPARE(control.GetLastPosition(), 11);
 }
 
 void tst_TextCtrl::style_isOneMessageAndNoEffect()

@@ -116,19 +116,12 @@ void tst_Validators::generic_transfersBothWays_data()
     QTest::addColumn<QByteArray>("property");
     QTest::addColumn<QVariant>("variable");
     QTest::addColumn<QVariant>("edited");
-    QTest::addColumn<QVariant>("readBack");
-    QTest::newRow("bool, check box") << QByteArray("snap") << QByteArray("checked") << QVariant(true) << QVariant(false)
-                                     << QVariant(false);
-    QTest::newRow("int, choice") << QByteArray("kind") << QByteArray("currentIndex") << QVariant(2) << QVariant(1)
-                                 << QVariant(1);
-    QTest::newRow("int, spin") << QByteArray("count") << QByteArray("value") << QVariant(7) << QVariant(3)
-                               << QVariant(3);
-    QTest::newRow("string, text") << QByteArray("name") << QByteArray("text") << QVariant("abc") << QVariant("xyz")
-                                  << QVariant("xyz");
+    // Bool and int both ways run in the dialog test below, on the check box, spin box and choice.
+    QTest::newRow("string, text") << QByteArray("name") << QByteArray("text") << QVariant("abc") << QVariant("xyz");
     QTest::newRow("string, combo entry") << QByteArray("path") << QByteArray("editText") << QVariant("y")
-                                         << QVariant("typed") << QVariant("typed");
+                                         << QVariant("typed");
     QTest::newRow("string, label") << QByteArray("caption") << QByteArray("text") << QVariant("done")
-                                   << QVariant("later") << QVariant("later");
+                                   << QVariant("later");
 }
 
 void tst_Validators::generic_transfersBothWays()
@@ -137,7 +130,6 @@ void tst_Validators::generic_transfersBothWays()
     QFETCH(QByteArray, property);
     QFETCH(QVariant, variable);
     QFETCH(QVariant, edited);
-    QFETCH(QVariant, readBack);
     Variables variables;
     variables.set(variable);
     qwxControl& target = this->control(control.constData());
@@ -147,7 +139,7 @@ void tst_Validators::generic_transfersBothWays()
     QCOMPARE(item(control.constData())->property(property.constData()), variable);
     item(control.constData())->setProperty(property.constData(), edited);
     QVERIFY(target.GetValidator()->TransferFromWindow());
-    QCOMPARE(variables.get(variable.userType()), readBack);
+    QCOMPARE(variables.get(variable.userType()), edited);
 }
 
 void tst_Validators::generic_unsupportedPair_logsAndTransfersNothing_data()

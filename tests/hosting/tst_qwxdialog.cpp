@@ -66,7 +66,6 @@ private Q_SLOTS:
     void init() { m_host = std::make_unique<quickhost::QuickHost>(QStringList{qmlImportDir()}); }
     void cleanup() { m_host.reset(); }
     void modalOk_endsWith5100AfterTheDialogWasLoadedAndBound();
-    void vetoedOk_keepsTheLoopRunningWithTheDataTransferred();
     void cancel_transfersNothing();
     void apply_isHeardAndLeavesTheDialogOpen();
     void withoutInternalDialog_everyForwarderAnswersNeutrally();
@@ -113,24 +112,6 @@ void tst_QwxDialog::modalOk_endsWith5100AfterTheDialogWasLoadedAndBound()
     QCOMPARE(agreed, QList<bool>{true});
     QCOMPARE(m_validators.transfers, (QStringList{"to:count", "from:count"}));
     QCOMPARE(dialog.journal, (QStringList{"resync", "eventTable", "createWindow", "createDialog", "beforeOk"}));
-}
-
-void tst_QwxDialog::vetoedOk_keepsTheLoopRunningWithTheDataTransferred()
-{
-    TestDialog dialog;
-    QVERIFY(loadDialog(dialog));
-    dialog.okVetoes = 1;
-    dialog.bind = validateCount();
-    dialog.script = [&](TestDialog& shown) {
-        clickItem(shown.item("wxID_OK"));
-        QVERIFY(shown.IsModal());
-        QCOMPARE(m_validators.transfers, (QStringList{"to:count", "from:count"}));
-        clickItem(shown.item("wxID_OK"));
-    };
-
-    QCOMPARE(ShowModal(&dialog), wxID_OK);
-    QCOMPARE(dialog.journal.count(QStringLiteral("beforeOk")), 2);
-    QCOMPARE(m_validators.transfers, (QStringList{"to:count", "from:count", "from:count"}));
 }
 
 void tst_QwxDialog::cancel_transfersNothing()
@@ -312,7 +293,6 @@ void tst_QwxDialog::controller_decidesByReturnCode_data()
     QTest::newRow("ok, vetoed") << int(wxID_OK) << false << QStringList{"beforeOk"};
     QTest::newRow("cancel") << int(wxID_CANCEL) << true << QStringList{"beforeCancel"};
     QTest::newRow("yes") << int(wxID_YES) << true << QStringList{};
-    QTest::newRow("apply") << int(wxID_APPLY) << true << QStringList{};
 }
 
 void tst_QwxDialog::controller_decidesByReturnCode()

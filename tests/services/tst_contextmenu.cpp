@@ -151,7 +151,6 @@ void tst_ContextMenu::buildContextMenu_dropsOneTrailingSeparator_data()
     QTest::addColumn<QString>("result");
 
     QTest::newRow("two trailing") << "i--" << "i-";
-    QTest::newRow("one trailing") << "i-i-" << "i-i";
     QTest::newRow("leading and doubled stay") << "-i--i" << "-i--i";
     QTest::newRow("only a separator") << "-" << "";
     QTest::newRow("inside a sub menu stays") << "is(i-s(i))" << "is(i-s(i))";
