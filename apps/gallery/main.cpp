@@ -70,7 +70,7 @@ int main(int argc, char** argv)
     out << "Dialog code saw:\n";
     for (const QString& line : dialog.seen)
         out << "  " << line << '\n';
-    out << "Title: " << qut::toQt(dialog.title) << ", plotter: " << qut::toQt(dialog.plotterPath)
+    out << "Title: " << qut::toQt(dialog.title) << ", plotter: " << qut::toQt(dialog.plotterPath())
         << ", paper: " << qut::toQt(dialog.paper) << '\n';
     out << "Copies: " << dialog.copies << ", layout checked: " << (dialog.checked ? "yes" : "no") << '\n';
     out << "ShowModal returned " << code << (code == wxID_OK ? " (wxID_OK)" : "") << '\n';

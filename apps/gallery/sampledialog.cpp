@@ -5,9 +5,13 @@
 #include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
+#include <dlgbridge/controls/qwxgenericvalidator.h>
+#include <dlgbridge/controls/qwxmenu.h>
+#include <dlgbridge/controls/qwxnotebook.h>
 #include <dlgbridge/controls/qwxspinctrl.h>
 #include <dlgbridge/controls/qwxstatictext.h>
 #include <dlgbridge/controls/qwxtextctrl.h>
+#include <dlgbridge/controls/qwxtextvalidator.h>
 #include <dlgbridge/controls/qwxtimer.h>
 #include <dlgbridge/controls/qwxtogglebutton.h>
 #include <dlgbridge/core/qmlchildlist.h>
@@ -16,8 +20,30 @@
 
 #include <qut/qtconversions.h>
 
+#include <iterator>
+
 namespace {
 constexpr int progressTimerId = 1;
+// The id qwxMenu::Bind takes for wxEVT_MENU.
+constexpr int menuEvent = 8;
+constexpr int pensPage = 2;
+
+struct Plotter
+{
+    const char* label;
+    const char* path;
+};
+constexpr Plotter plotters[] = {
+    {"Office plotter", "//plotserver/office"},
+    {"Large format", "//plotserver/a0"},
+    {"PDF file", "pdf:"},
+};
+
+const Plotter& plotterAt(int index)
+{
+    static constexpr Plotter none{"no plotter", ""};
+    return index >= 0 && index < int(std::size(plotters)) ? plotters[index] : none;
+}
 } // namespace
 
 using namespace dbr;
@@ -34,9 +60,19 @@ Control* SampleDialog::control(const char* name) const
     return dynamic_cast<Control*>(FindWindow(name));
 }
 
+wxString SampleDialog::plotterPath() const
+{
+    return plotterAt(plotter).path;
+}
+
 void SampleDialog::doEventTableInit()
 {
+    setValidators();
+    buildTitleMenu();
     QmlChildList* children = qmlChildren(UseParentList);
+    children->connectToNotebookPageChangedEvent("book", [this](qwxCommandEvent& event) {
+        seen.append(QStringLiteral("page %1 shown").arg(event.GetSelection()));
+    });
     children->connectToClickEvent("preview", [this](qwxCommandEvent&) { onPreview(); });
     children->connectToCheckBoxEvent("agree", [this](qwxCommandEvent& event) {
         seen.append(event.IsChecked() ? QStringLiteral("layout checked") : QStringLiteral("layout unchecked"));
@@ -47,6 +83,10 @@ void SampleDialog::doEventTableInit()
     });
     children->connectToTextEvent("plotTitle", [this](qwxCommandEvent& event) {
         seen.append(QStringLiteral("title \"%1\"").arg(qut::toQt(event.GetString())));
+    });
+    children->connectToContextMenuEvent("plotTitle", [this](qwxContextMenuEvent&) {
+        seen.append(QStringLiteral("title menu popped up"));
+        PopupMenu(control<qwxMenu>("titleMenu"), wxDefaultPosition);
     });
     children->connectToChoiceEvent("plotter", [this](qwxCommandEvent& event) {
         const auto* path = dynamic_cast<qwxStringClientData*>(event.GetClientObject());
@@ -61,14 +101,38 @@ void SampleDialog::doEventTableInit()
     children->connectToTimerEvent(*this, progressTimerId, [this](qwxTimerEvent& event) { onProgress(event); });
 }
 
+// The controls show the members on show and write them back before beforeOk.
+void SampleDialog::setValidators()
+{
+    FindWindow("plotTitle")->SetValidator(qwxTextValidator(wxFILTER_NONE, &title));
+    FindWindow("copies")->SetValidator(qwxGenericValidator(&copies));
+    FindWindow("agree")->SetValidator(qwxGenericValidator(&checked));
+    FindWindow("plotter")->SetValidator(qwxGenericValidator(&plotter));
+    FindWindow("paper")->SetValidator(qwxGenericValidator(&paper));
+}
+
+void SampleDialog::buildTitleMenu()
+{
+    qwxMenu* menu = control<qwxMenu>("titleMenu");
+    // The entries live in QML: a second load of the wrappers would append them twice.
+    menu->Clear();
+    menu->Append("addScale", "Add the scale");
+    menu->AppendSeparator();
+    menu->Append("clearTitle", "Clear the title");
+    const auto addScale = [this](qwxCommandEvent&) { onAddScale(); };
+    const auto clearTitle = [this](qwxCommandEvent&) { control<qwxTextCtrl>("plotTitle")->SetValue(wxString()); };
+    menu->Bind(menuEvent, addScale, "addScale");
+    menu->Bind(menuEvent, clearTitle, "clearTitle");
+}
+
 void SampleDialog::onCreateDialog(qwxInitDialogEvent&)
 {
     control<qwxGauge>("progress")->SetRange(100);
-    qwxChoice* plotter = control<qwxChoice>("plotter");
-    plotter->Append("Office plotter", new qwxStringClientData("//plotserver/office"));
-    plotter->Append("Large format", new qwxStringClientData("//plotserver/a0"));
-    plotter->Append("PDF file", new qwxStringClientData("pdf:"));
-    plotter->SetSelection(0);
+    qwxChoice* choice = control<qwxChoice>("plotter");
+    for (const Plotter& entry : plotters)
+        choice->Append(entry.label, new qwxStringClientData(entry.path));
+    // No plot server here reports a pen table.
+    control<qwxNotebook>("book")->HidePage(pensPage);
     control<qwxStaticText>("status")->SetLabel(wxString("Choose the options, then preview"));
 }
 
@@ -90,10 +154,18 @@ void SampleDialog::onProgress(qwxTimerEvent&)
     control<qwxStaticText>("status")->SetLabel(wxString("Preview ready"));
 }
 
+void SampleDialog::onAddScale()
+{
+    seen.append(QStringLiteral("menu: add the scale"));
+    qwxTextCtrl* field = control<qwxTextCtrl>("plotTitle");
+    field->SetValue(field->GetValue() + " 1:50");
+}
+
 void SampleDialog::onApply()
 {
-    const wxString summary = wxString::Format("%d copies on %s", control<qwxSpinCtrl>("copies")->GetValue(),
-                                              control<qwxChoice>("plotter")->GetStringSelection());
+    // As wx's own Apply does: the members then hold what the controls show.
+    TransferDataFromWindow();
+    const wxString summary = wxString::Format("%d copies on %s", copies, plotterAt(plotter).label);
     const int answer =
         models()->dialogFactory->showInfoMessage("Plot settings", qut::odFromWx(summary), nullptr, OkCancel);
     seen.append(QStringLiteral("applied, info box answered %1").arg(answer));
@@ -101,13 +173,6 @@ void SampleDialog::onApply()
 
 bool SampleDialog::beforeOk()
 {
-    copies = control<qwxSpinCtrl>("copies")->GetValue();
-    title = control<qwxTextCtrl>("plotTitle")->GetValue();
-    qwxChoice* plotter = control<qwxChoice>("plotter");
-    if (const auto* path = dynamic_cast<qwxStringClientData*>(plotter->GetClientObject(plotter->GetSelection())))
-        plotterPath = path->GetData();
-    paper = control<qwxComboBox>("paper")->GetValue();
-    checked = control<qwxCheckBox>("agree")->GetValue();
     if (checked)
         return true;
     seen.append(QStringLiteral("OK refused: layout not checked"));

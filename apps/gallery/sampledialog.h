@@ -22,20 +22,25 @@ public:
 
     // What the dialog code saw, in order.
     QStringList seen;
-    // Read from the controls when the user confirms.
-    int copies = 0;
+    // Shown by the controls and read back from them by their validators.
+    int copies = 1;
     bool checked = false;
     wxString title;
-    wxString plotterPath;
-    wxString paper;
+    int plotter = 0;
+    wxString paper = "A4";
+
+    wxString plotterPath() const;
 
     void doEventTableInit() override;
     bool beforeOk() override;
 
 private:
     void onCreateDialog(dbr::qwxInitDialogEvent& event) override;
+    void setValidators();
+    void buildTitleMenu();
     void onPreview();
     void onApply();
+    void onAddScale();
     void onProgress(dbr::qwxTimerEvent& event);
 
     template<typename Control>

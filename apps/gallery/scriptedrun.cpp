@@ -2,6 +2,7 @@
 
 #include "sampledialog.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QDebug>
 #include <QMouseEvent>
@@ -25,12 +26,16 @@ ScriptedRun::ScriptedRun(SampleDialog& dialog, QString screenshotPath)
         [this] { click("wxID_OK"); },
         [this] { click("agree"); },
         [this] { invoke("plotTitle", "insert", Q_ARG(int, 0), Q_ARG(QString, QStringLiteral("Ground floor"))); },
+        [this] { click("plotTitle", Qt::RightButton); },
+        [this] { clickMenuEntry("titleMenu", "addScale"); },
+        [this] { clickTab("book", 1); },
         [this] {
             setOn("plotter", "currentIndex", 1);
             invoke("plotter", "activated", Q_ARG(int, 1));
         },
         [this] { setOn("paper", "editText", QStringLiteral("A2")); },
         [this] { setOn("style", "currentIndex", 1); },
+        [this] { clickTab("book", 0); },
         [this] { setOn("copies", "value", 3); },
         [this] { click("wxID_APPLY"); },
         // Apply asks in a message box, whose own loop runs the next step.
@@ -54,9 +59,36 @@ void ScriptedRun::next()
     m_steps[m_next++]();
 }
 
-void ScriptedRun::click(const char* name)
+void ScriptedRun::click(const char* name, Qt::MouseButton button)
 {
-    clickItem(m_dialog.root()->findChild<QQuickItem*>(QLatin1String(name)), name);
+    clickItem(m_dialog.root()->findChild<QQuickItem*>(QLatin1String(name)), name, button);
+}
+
+QQuickItem* ScriptedRun::itemAt(const char* name, int index) const
+{
+    QQuickItem* found = nullptr;
+    QMetaObject::invokeMethod(m_dialog.root()->findChild<QObject*>(QLatin1String(name)), "itemAt",
+                              Q_RETURN_ARG(QQuickItem*, found), Q_ARG(int, index));
+    return found;
+}
+
+void ScriptedRun::clickTab(const char* notebook, int page)
+{
+    clickItem(itemAt(notebook, page), notebook);
+}
+
+void ScriptedRun::clickMenuEntry(const char* menu, const char* identifier)
+{
+    const int count = m_dialog.root()->findChild<QObject*>(QLatin1String(menu))->property("count").toInt();
+    for (int index = 0; index < count; ++index) {
+        QQuickItem* entry = itemAt(menu, index);
+        const auto* action = entry ? entry->property("action").value<QObject*>() : nullptr;
+        if (action && action->objectName() == QLatin1String(identifier)) {
+            clickItem(entry, identifier);
+            return;
+        }
+    }
+    qWarning() << "The script found no menu entry" << identifier;
 }
 
 namespace {
@@ -90,7 +122,7 @@ void ScriptedRun::clickInMessageBox(int button)
     qWarning() << "The script found no message box";
 }
 
-void ScriptedRun::clickItem(QQuickItem* item, const char* name)
+void ScriptedRun::clickItem(QQuickItem* item, const char* name, Qt::MouseButton button)
 {
     if (!item || !item->window()) {
         qWarning() << "The script found no item" << name;
@@ -98,12 +130,18 @@ void ScriptedRun::clickItem(QQuickItem* item, const char* name)
     }
     const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
     const QPoint global = item->window()->mapToGlobal(centre.toPoint());
-    QMouseEvent press(QEvent::MouseButtonPress, centre, centre, global, Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QGuiApplication::sendEvent(item->window(), &press);
-    QMouseEvent release(QEvent::MouseButtonRelease, centre, centre, global, Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
-    QGuiApplication::sendEvent(item->window(), &release);
+    // The pointer goes there first: a menu pops up at it and takes clicks only on an entry it entered.
+    QCursor::setPos(global);
+    sendMouse(item->window(), QEvent::MouseMove, centre, Qt::NoButton, Qt::NoButton);
+    sendMouse(item->window(), QEvent::MouseButtonPress, centre, button, button);
+    sendMouse(item->window(), QEvent::MouseButtonRelease, centre, button, Qt::NoButton);
+}
+
+void ScriptedRun::sendMouse(QWindow* window, QEvent::Type type, const QPointF& at, Qt::MouseButton button,
+                            Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, at, at, window->mapToGlobal(at.toPoint()), button, buttons, Qt::NoModifier);
+    QGuiApplication::sendEvent(window, &event);
 }
 
 void ScriptedRun::setOn(const char* name, const char* property, const QVariant& value)

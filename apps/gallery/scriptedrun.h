@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QObject>
 #include <QSharedPointer>
 #include <QString>
@@ -10,11 +11,13 @@
 
 class QQuickItem;
 class QQuickItemGrabResult;
+class QWindow;
 class SampleDialog;
 
 // Plays a user through the sample dialog's real QML items while it runs
-// modally: preview, a refused OK, a check, a title, a plotter, a paper size,
-// more copies, Apply with its message box, a screenshot, OK.
+// modally: preview, a refused OK, a check, a title and an entry of its context
+// menu, the plotter page with a plotter, a paper size and a style, the drawing
+// page with more copies, Apply with its message box, a screenshot, OK.
 class ScriptedRun : public QObject
 {
     Q_OBJECT
@@ -28,9 +31,15 @@ public:
 
 private:
     void next();
-    void click(const char* name);
+    void click(const char* name, Qt::MouseButton button = Qt::LeftButton);
+    void clickTab(const char* notebook, int page);
+    void clickMenuEntry(const char* menu, const char* identifier);
     void clickInMessageBox(int button);
-    void clickItem(QQuickItem* item, const char* name);
+    void clickItem(QQuickItem* item, const char* name, Qt::MouseButton button = Qt::LeftButton);
+    static void sendMouse(QWindow* window, QEvent::Type type, const QPointF& at, Qt::MouseButton button,
+                          Qt::MouseButtons buttons);
+    // The item a tab bar or a menu gives for that index.
+    QQuickItem* itemAt(const char* name, int index) const;
     void setOn(const char* name, const char* property, const QVariant& value);
     template<typename... Arguments>
     void invoke(const char* name, const char* method, Arguments... arguments);

@@ -16,24 +16,57 @@ DialogAV {
 
         Label { objectName: "status"; text: "Ready"; font.bold: true }
 
+        TabBar {
+            objectName: "book"
+            Layout.fillWidth: true
+            pages: [drawingPage, plotterPage, pensPage]
+        }
+
+        // The pages: the tab bar shows the current one only.
         Panel {
-            objectName: "options"
+            id: drawingPage
+            objectName: "drawingPage"
+            property string title: "Drawing"
             Layout.fillWidth: true
             backgroundColor: "#e4e8ee"
 
             GridLayout {
                 columns: 2
+                width: parent.width
                 Label { text: "Title" }
                 TextField { objectName: "plotTitle"; Layout.fillWidth: true; placeholderText: "Title block text" }
+                Label { text: "Copies" }
+                SpinBox { objectName: "copies"; from: 1; to: 99 }
+            }
+        }
+
+        Panel {
+            id: plotterPage
+            objectName: "plotterPage"
+            property string title: "Plotter"
+            Layout.fillWidth: true
+            backgroundColor: "#e4e8ee"
+
+            GridLayout {
+                columns: 2
+                width: parent.width
                 Label { text: "Plotter" }
                 ComboBox { objectName: "plotter"; Layout.fillWidth: true }
                 Label { text: "Paper" }
                 ComboBox { objectName: "paper"; editable: true; model: ["A4", "A3", "Letter"] }
-                Label { text: "Copies" }
-                SpinBox { objectName: "copies"; from: 1; to: 99; value: 1 }
                 Label { text: "Plot style" }
                 ToggleButton { objectName: "style"; model: ["Colour", "Monochrome", "Greyscale"] }
             }
+        }
+
+        Panel {
+            id: pensPage
+            objectName: "pensPage"
+            property string title: "Pens"
+            Layout.fillWidth: true
+            backgroundColor: "#e4e8ee"
+
+            Label { text: "Pen table of the plot server" }
         }
 
         RowLayout {
@@ -44,4 +77,7 @@ DialogAV {
 
         CheckBox { objectName: "agree"; text: "I have checked the layout" }
     }
+
+    // Filled by the dialog code, popped up over the title field.
+    WxConvMenu { objectName: "titleMenu" }
 }
