@@ -1,14 +1,11 @@
 #include "sampledialog.h"
 
-#include <dlgbridge/controls/qwxcheckbox.h>
 #include <dlgbridge/controls/qwxchoice.h>
 #include <dlgbridge/core/qwxclientdata.h>
-#include <dlgbridge/controls/qwxcombobox.h>
 #include <dlgbridge/controls/qwxgauge.h>
 #include <dlgbridge/controls/qwxgenericvalidator.h>
 #include <dlgbridge/controls/qwxmenu.h>
 #include <dlgbridge/controls/qwxnotebook.h>
-#include <dlgbridge/controls/qwxspinctrl.h>
 #include <dlgbridge/controls/qwxstatictext.h>
 #include <dlgbridge/controls/qwxtextctrl.h>
 #include <dlgbridge/controls/qwxtextvalidator.h>
