@@ -46,6 +46,7 @@ const std::vector<Declaration>& kitDeclarations()
         {"ComboBox", "editable: true; model: [\"x\", \"y\"]"},
         {"ProgressBar", ""},
         {"WxConvMenu", ""},
+        {"TabBar", "pages: [Item {}, Item {}, Item {}]"},
     };
     return declarations;
 }
