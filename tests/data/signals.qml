@@ -9,8 +9,7 @@ DialogAV {
         TextField { objectName: "field"; width: 200 }
         RadioButton { objectName: "radio"; text: "Radio" }
         ToggleButton { objectName: "mode"; model: ["A", "B"] }
-        // Stand-ins for a notebook and a menu, which carry the signals of theirs.
-        Item { objectName: "pages"; property string qmlType: "Notebook"; signal currentChanged(int index) }
-        Item { objectName: "menu"; property string qmlType: "WxConvMenu"; signal menuItemTriggered(string id) }
+        TabBar { objectName: "pages"; pages: [Item {}, Item {}, Item {}] }
+        WxConvMenu { objectName: "menu" }
     }
 }
