@@ -1,7 +1,6 @@
 #include "sampledialog.h"
 
 #include <dlgbridge/controls/qwxchoice.h>
-#include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/controls/qwxgauge.h>
 #include <dlgbridge/controls/qwxgenericvalidator.h>
 #include <dlgbridge/controls/qwxmenu.h>
@@ -13,6 +12,7 @@
 #include <dlgbridge/controls/qwxtogglebutton.h>
 #include <dlgbridge/core/qmlchildlist.h>
 #include <dlgbridge/core/qtcontrolmodels.h>
+#include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/services/idialogfactory.h>
 
 #include <qut/qtconversions.h>
