@@ -13,11 +13,16 @@
 
 namespace dbr {
 
-// The fourth alternative stands for a record no public constructor has filled.
 class qwxGenericValidatorPrivate
 {
 public:
-    std::variant<bool*, int*, wxString*, std::monostate> variable{std::in_place_index<3>};
+    using Variable = std::variant<bool*, int*, wxString*>;
+
+    explicit qwxGenericValidatorPrivate(Variable value)
+        : variable(value)
+    {}
+
+    Variable variable;
 };
 
 namespace {
@@ -46,7 +51,6 @@ struct ToWindow
     const IValidator& validator;
     qwxControl& control;
 
-    bool operator()(std::monostate) const { return false; }
     bool operator()(bool* value) const
     {
         return transferAs<qwxCheckBox>(control, [value](qwxCheckBox& box) { box.SetValue(*value); }) ||
@@ -73,7 +77,6 @@ struct FromWindow
     const IValidator& validator;
     qwxControl& control;
 
-    bool operator()(std::monostate) const { return false; }
     bool operator()(bool* value) const
     {
         return transferAs<qwxCheckBox>(control, [value](qwxCheckBox& box) { *value = box.GetValue(); }) ||
@@ -96,47 +99,27 @@ struct FromWindow
 };
 
 // A null variable is no variable at all: nothing to transfer, nothing to say.
-struct IsMissing
-{
-    bool operator()(std::monostate) const { return true; }
-    template<typename Value>
-    bool operator()(Value* value) const
-    {
-        return !value;
-    }
-};
-
 template<typename Direction, typename Variable>
 bool transfer(const IValidator& validator, qwxControl* control, const Variable& variable)
 {
-    if (!control || std::visit(IsMissing{}, variable))
+    if (!control || std::visit([](auto* value) { return !value; }, variable))
         return false;
     return std::visit(Direction{validator, *control}, variable);
 }
 
 } // namespace
 
-qwxGenericValidator::qwxGenericValidator()
-    : d(std::make_unique<qwxGenericValidatorPrivate>())
+qwxGenericValidator::qwxGenericValidator(bool* value)
+    : d(std::make_unique<qwxGenericValidatorPrivate>(value))
 {}
 
-qwxGenericValidator::qwxGenericValidator(bool* value)
-    : qwxGenericValidator()
-{
-    d->variable = value;
-}
-
 qwxGenericValidator::qwxGenericValidator(int* value)
-    : qwxGenericValidator()
-{
-    d->variable = value;
-}
+    : d(std::make_unique<qwxGenericValidatorPrivate>(value))
+{}
 
 qwxGenericValidator::qwxGenericValidator(wxString* value)
-    : qwxGenericValidator()
-{
-    d->variable = value;
-}
+    : d(std::make_unique<qwxGenericValidatorPrivate>(value))
+{}
 
 qwxGenericValidator::qwxGenericValidator(const qwxGenericValidator& other)
     : IValidator(other)
@@ -155,11 +138,10 @@ bool qwxGenericValidator::TransferFromWindow()
     return transfer<FromWindow>(*this, control(), d->variable);
 }
 
+// A clone points at the same variable and has no control until it is set.
 IValidator* qwxGenericValidator::clone() const
 {
-    auto* copy = new qwxGenericValidator();
-    copy->d->variable = d->variable;
-    return copy;
+    return std::visit([](auto* value) -> IValidator* { return new qwxGenericValidator(value); }, d->variable);
 }
 
 } // namespace dbr

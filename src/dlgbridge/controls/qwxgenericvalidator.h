@@ -26,8 +26,6 @@ public:
     IValidator* clone() const override;
 
 private:
-    qwxGenericValidator();
-
     std::unique_ptr<qwxGenericValidatorPrivate> const d;
 };
 

@@ -9,17 +9,12 @@ namespace dbr {
 class qwxTextValidatorPrivate
 {
 public:
-    wxString* value = nullptr;
+    wxString* value;
 };
 
-qwxTextValidator::qwxTextValidator()
-    : d(std::make_unique<qwxTextValidatorPrivate>())
-{}
-
 qwxTextValidator::qwxTextValidator(wxTextValidatorStyle style, wxString* value)
-    : qwxTextValidator()
+    : d(std::make_unique<qwxTextValidatorPrivate>(qwxTextValidatorPrivate{value}))
 {
-    d->value = value;
     if (style != 0)
         qWarning().noquote()
             << QStringLiteral("qwxTextValidator::qwxTextValidator style param %1 not implemented").arg(int(style));
@@ -45,11 +40,10 @@ bool qwxTextValidator::TransferFromWindow()
     return true;
 }
 
+// A clone points at the same variable and has no control until it is set.
 IValidator* qwxTextValidator::clone() const
 {
-    auto* copy = new qwxTextValidator();
-    copy->d->value = d->value;
-    return copy;
+    return new qwxTextValidator(wxFILTER_NONE, d->value);
 }
 
 } // namespace dbr

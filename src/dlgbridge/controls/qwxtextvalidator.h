@@ -25,8 +25,6 @@ public:
     IValidator* clone() const override;
 
 private:
-    qwxTextValidator();
-
     std::unique_ptr<qwxTextValidatorPrivate> const d;
 };
 
