@@ -104,6 +104,14 @@ private Q_SLOTS:
 
 private:
     qwxControl& control(const char* name) { return *m_host->list().child<qwxControl>(name); }
+    // The control of that name, validated over the variable of variables that holds value.
+    qwxControl& validated(const char* name, Variables& variables, const QVariant& value)
+    {
+        variables.set(value);
+        qwxControl& target = control(name);
+        target.SetValidator(variables.validatorFor(value));
+        return target;
+    }
     QObject* item(const char* name) const { return m_host->root()->findChild<QObject*>(QLatin1String(name)); }
 
     std::unique_ptr<QmlFixture> m_qml;
@@ -131,9 +139,7 @@ void tst_Validators::generic_transfersBothWays()
     QFETCH(QVariant, variable);
     QFETCH(QVariant, edited);
     Variables variables;
-    variables.set(variable);
-    qwxControl& target = this->control(control.constData());
-    target.SetValidator(variables.validatorFor(variable));
+    qwxControl& target = validated(control.constData(), variables, variable);
 
     QVERIFY(target.GetValidator()->TransferToWindow());
     QCOMPARE(item(control.constData())->property(property.constData()), variable);
@@ -175,9 +181,7 @@ void tst_Validators::generic_unsupportedPair_logsAndTransfersNothing()
     QFETCH(bool, toWindow);
     QFETCH(QString, message);
     Variables variables;
-    variables.set(variable);
-    qwxControl& target = this->control(control.constData());
-    target.SetValidator(variables.validatorFor(variable));
+    qwxControl& target = validated(control.constData(), variables, variable);
     const QVariantMap before = {{"text", item(control.constData())->property("text")},
                                 {"currentIndex", item(control.constData())->property("currentIndex")},
                                 {"checked", item(control.constData())->property("checked")}};
