@@ -28,23 +28,20 @@ struct StandardId
     const char* name;
 };
 
-// The object names that standard buttons must carry, by wx id.
+// The object names that standard buttons must carry, by wx id: the id's own name.
+#define DBR_STANDARD_ID(id) StandardId{id, #id}
 constexpr StandardId standardIds[] = {
-    {wxID_ANY, "wxID_ANY"},           {wxID_CLOSE, "wxID_CLOSE"},
-    {wxID_NEW, "wxID_NEW"},           {wxID_SAVE, "wxID_SAVE"},
-    {wxID_HELP, "wxID_HELP"},         {wxID_DELETE, "wxID_DELETE"},
-    {wxID_REPLACE, "wxID_REPLACE"},   {wxID_OK, "wxID_OK"},
-    {wxID_CANCEL, "wxID_CANCEL"},     {wxID_APPLY, "wxID_APPLY"},
-    {wxID_YES, "wxID_YES"},           {wxID_NO, "wxID_NO"},
-    {wxID_STATIC, "wxID_STATIC"},     {wxID_FORWARD, "wxID_FORWARD"},
-    {wxID_BACKWARD, "wxID_BACKWARD"}, {wxID_DEFAULT, "wxID_DEFAULT"},
-    {wxID_MORE, "wxID_MORE"},         {wxID_SETUP, "wxID_SETUP"},
-    {wxID_RESET, "wxID_RESET"},       {wxID_CONTEXT_HELP, "wxID_CONTEXT_HELP"},
-    {wxID_YESTOALL, "wxID_YESTOALL"}, {wxID_NOTOALL, "wxID_NOTOALL"},
-    {wxID_ABORT, "wxID_ABORT"},       {wxID_RETRY, "wxID_RETRY"},
-    {wxID_IGNORE, "wxID_IGNORE"},     {wxID_ADD, "wxID_ADD"},
-    {wxID_REMOVE, "wxID_REMOVE"},
+    DBR_STANDARD_ID(wxID_ANY), DBR_STANDARD_ID(wxID_CLOSE), DBR_STANDARD_ID(wxID_NEW),
+    DBR_STANDARD_ID(wxID_SAVE), DBR_STANDARD_ID(wxID_HELP), DBR_STANDARD_ID(wxID_DELETE),
+    DBR_STANDARD_ID(wxID_REPLACE), DBR_STANDARD_ID(wxID_OK), DBR_STANDARD_ID(wxID_CANCEL),
+    DBR_STANDARD_ID(wxID_APPLY), DBR_STANDARD_ID(wxID_YES), DBR_STANDARD_ID(wxID_NO),
+    DBR_STANDARD_ID(wxID_STATIC), DBR_STANDARD_ID(wxID_FORWARD), DBR_STANDARD_ID(wxID_BACKWARD),
+    DBR_STANDARD_ID(wxID_DEFAULT), DBR_STANDARD_ID(wxID_MORE), DBR_STANDARD_ID(wxID_SETUP),
+    DBR_STANDARD_ID(wxID_RESET), DBR_STANDARD_ID(wxID_CONTEXT_HELP), DBR_STANDARD_ID(wxID_YESTOALL),
+    DBR_STANDARD_ID(wxID_NOTOALL), DBR_STANDARD_ID(wxID_ABORT), DBR_STANDARD_ID(wxID_RETRY),
+    DBR_STANDARD_ID(wxID_IGNORE), DBR_STANDARD_ID(wxID_ADD), DBR_STANDARD_ID(wxID_REMOVE),
 };
+#undef DBR_STANDARD_ID
 
 const char* standardButtonName(int id)
 {
