@@ -1,22 +1,16 @@
-// The gallery: a sample dialog written as the application's dialog code is,
-// hosted on Qt Quick windows. With a display a person uses it; without one (or
-// with --offscreen) a script plays it and leaves a screenshot.
-#include "sampledialog.h"
-#include "scriptedrun.h"
+// The gallery: sample dialogs written as the application's dialog code is,
+// hosted on Qt Quick windows. With a display a person uses them; without one
+// (or with --offscreen) a script plays them and leaves a screenshot.
+#include "gallerysample.h"
+#include "samples.h"
 
 #include <quickhost/quickhost.h>
-
-#include <qut/qtconversions.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLoggingCategory>
 #include <QTextStream>
-#include <QUrl>
 
-#include <wx/defs.h>
-
-#include <cstdio>
 
 namespace {
 
@@ -35,6 +29,23 @@ bool wantsOffscreen(int argc, char** argv)
     return !hasDisplay();
 }
 
+const SampleEntry* findSample(const QString& name)
+{
+    for (const SampleEntry& entry : gallerySamples()) {
+        if (name == QLatin1String(entry.name))
+            return &entry;
+    }
+    return nullptr;
+}
+
+QString sampleList()
+{
+    QString list;
+    for (const SampleEntry& entry : gallerySamples())
+        list += QStringLiteral("  %1: %2\n").arg(QLatin1String(entry.name), QLatin1String(entry.summary));
+    return list;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -51,30 +62,25 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Sample wx-style dialogs running over QML"));
     parser.addHelpOption();
-    parser.addOption({QStringLiteral("offscreen"), QStringLiteral("Play the dialog by script, without a display.")});
-    parser.addOption({QStringLiteral("screenshot"), QStringLiteral("Where the scripted run saves its screenshot."),
-                      QStringLiteral("file"), QStringLiteral(GALLERY_DEFAULT_SCREENSHOT)});
+    parser.addOption({QStringLiteral("offscreen"), QStringLiteral("Play the sample by script, without a display.")});
+    parser.addOption({QStringLiteral("screenshot"),
+                      QStringLiteral("Where the scripted run saves its screenshot (by default gallery-NAME.png in "
+                                     "the build folder)."),
+                      QStringLiteral("file")});
+    parser.addOption({QStringLiteral("sample"), QStringLiteral("Which sample to run:\n") + sampleList(),
+                      QStringLiteral("name"), QLatin1String(gallerySamples().front().name)});
     parser.process(app);
 
-    dbr::quickhost::QuickHost host({QStringLiteral(GALLERY_QML_IMPORT_DIR)});
-    SampleDialog dialog;
-    dbr::wut::doLoadDialog(&dialog, nullptr, QUrl(QStringLiteral("qrc:/gallery/SampleDialog.qml")),
-                           dbr::Resizable, {}, nullptr);
-
-    ScriptedRun script(dialog, parser.value(QStringLiteral("screenshot")));
-    if (scripted)
-        script.start();
-    const int code = dbr::ShowModal(&dialog);
-
     QTextStream out(stdout);
-    out << "Dialog code saw:\n";
-    for (const QString& line : dialog.seen)
-        out << "  " << line << '\n';
-    out << "Title: " << qut::toQt(dialog.title) << ", plotter: " << qut::toQt(dialog.plotterPath())
-        << ", paper: " << qut::toQt(dialog.paper) << '\n';
-    out << "Copies: " << dialog.copies << ", layout checked: " << (dialog.checked ? "yes" : "no") << '\n';
-    out << "ShowModal returned " << code << (code == wxID_OK ? " (wxID_OK)" : "") << '\n';
-    if (scripted && script.screenshotSaved())
-        out << "Screenshot: " << parser.value(QStringLiteral("screenshot")) << '\n';
-    return scripted && (code != wxID_OK || !script.screenshotSaved()) ? 1 : 0;
+    const SampleEntry* entry = findSample(parser.value(QStringLiteral("sample")));
+    if (!entry) {
+        QTextStream(stderr) << "No sample is called " << parser.value(QStringLiteral("sample")) << "; there are:\n"
+                            << sampleList();
+        return 2;
+    }
+    QString screenshot = parser.value(QStringLiteral("screenshot"));
+    if (screenshot.isEmpty())
+        screenshot = QStringLiteral(GALLERY_SCREENSHOT_DIR "/gallery-%1.png").arg(QLatin1String(entry->name));
+    dbr::quickhost::QuickHost host({QStringLiteral(GALLERY_QML_IMPORT_DIR)});
+    return entry->make()->run({scripted, screenshot}, out);
 }

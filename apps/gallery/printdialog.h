@@ -14,11 +14,14 @@ class qwxTimerEvent;
 }
 
 // Dialog code as the application writes it against the wx-shaped interface.
-class SampleDialog : public dbr::qwxDialog
+class PrintDialog : public dbr::qwxDialog
 {
 public:
-    SampleDialog();
-    ~SampleDialog() override;
+    PrintDialog();
+    ~PrintDialog() override;
+
+    // Loads the dialog's QML into a window of the application's host.
+    bool load(wxWindow* parent = nullptr);
 
     // What the dialog code saw, in order.
     QStringList seen;

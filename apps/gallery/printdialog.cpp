@@ -1,4 +1,4 @@
-#include "sampledialog.h"
+#include "printdialog.h"
 
 #include <dlgbridge/controls/qwxchoice.h>
 #include <dlgbridge/controls/qwxgauge.h>
@@ -14,6 +14,8 @@
 #include <dlgbridge/core/qtcontrolmodels.h>
 #include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/services/idialogfactory.h>
+
+#include <QUrl>
 
 #include <qut/qtconversions.h>
 
@@ -45,24 +47,30 @@ const Plotter& plotterAt(int index)
 
 using namespace dbr;
 
-SampleDialog::SampleDialog()
+PrintDialog::PrintDialog()
     : m_timer(std::make_unique<qwxTimer>(this, progressTimerId))
 {}
 
-SampleDialog::~SampleDialog() = default;
+PrintDialog::~PrintDialog() = default;
+
+bool PrintDialog::load(wxWindow* parent)
+{
+    return wut::doLoadDialog(this, parent, QUrl(QStringLiteral("qrc:/gallery/PrintDialog.qml")), Resizable, {},
+                             nullptr);
+}
 
 template<typename Control>
-Control* SampleDialog::control(const char* name) const
+Control* PrintDialog::control(const char* name) const
 {
     return dynamic_cast<Control*>(FindWindow(name));
 }
 
-wxString SampleDialog::plotterPath() const
+wxString PrintDialog::plotterPath() const
 {
     return plotterAt(plotter).path;
 }
 
-void SampleDialog::doEventTableInit()
+void PrintDialog::doEventTableInit()
 {
     setValidators();
     buildTitleMenu();
@@ -99,7 +107,7 @@ void SampleDialog::doEventTableInit()
 }
 
 // The controls show the members on show and write them back before beforeOk.
-void SampleDialog::setValidators()
+void PrintDialog::setValidators()
 {
     FindWindow("plotTitle")->SetValidator(qwxTextValidator(wxFILTER_NONE, &title));
     FindWindow("copies")->SetValidator(qwxGenericValidator(&copies));
@@ -108,7 +116,7 @@ void SampleDialog::setValidators()
     FindWindow("paper")->SetValidator(qwxGenericValidator(&paper));
 }
 
-void SampleDialog::buildTitleMenu()
+void PrintDialog::buildTitleMenu()
 {
     qwxMenu* menu = control<qwxMenu>("titleMenu");
     // The entries live in QML: a second load of the wrappers would append them twice.
@@ -122,7 +130,7 @@ void SampleDialog::buildTitleMenu()
     menu->Bind(menuEvent, clearTitle, "clearTitle");
 }
 
-void SampleDialog::onCreateDialog(qwxInitDialogEvent&)
+void PrintDialog::onCreateDialog(qwxInitDialogEvent&)
 {
     control<qwxGauge>("progress")->SetRange(100);
     qwxChoice* choice = control<qwxChoice>("plotter");
@@ -133,14 +141,14 @@ void SampleDialog::onCreateDialog(qwxInitDialogEvent&)
     control<qwxStaticText>("status")->SetLabel(wxString("Choose the options, then preview"));
 }
 
-void SampleDialog::onPreview()
+void PrintDialog::onPreview()
 {
     seen.append(QStringLiteral("preview started"));
     control<qwxGauge>("progress")->SetValue(0);
     m_timer->Start(40);
 }
 
-void SampleDialog::onProgress(qwxTimerEvent&)
+void PrintDialog::onProgress(qwxTimerEvent&)
 {
     qwxGauge* gauge = control<qwxGauge>("progress");
     gauge->SetValue(gauge->GetValue() + 20);
@@ -151,14 +159,14 @@ void SampleDialog::onProgress(qwxTimerEvent&)
     control<qwxStaticText>("status")->SetLabel(wxString("Preview ready"));
 }
 
-void SampleDialog::onAddScale()
+void PrintDialog::onAddScale()
 {
     seen.append(QStringLiteral("menu: add the scale"));
     qwxTextCtrl* field = control<qwxTextCtrl>("plotTitle");
     field->SetValue(field->GetValue() + " 1:50");
 }
 
-void SampleDialog::onApply()
+void PrintDialog::onApply()
 {
     // As wx's own Apply does: the members then hold what the controls show.
     TransferDataFromWindow();
@@ -168,7 +176,7 @@ void SampleDialog::onApply()
     seen.append(QStringLiteral("applied, info box answered %1").arg(answer));
 }
 
-bool SampleDialog::beforeOk()
+bool PrintDialog::beforeOk()
 {
     if (checked)
         return true;

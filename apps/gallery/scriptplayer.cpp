@@ -1,0 +1,226 @@
+#include "scriptplayer.h"
+
+#include <QCursor>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QQuickItem>
+#include <QQuickItemGrabResult>
+#include <QQuickWindow>
+#include <QTimer>
+
+namespace {
+// Long enough for timers and animations of a sample to run between two steps.
+constexpr int stepIntervalMs = 300;
+constexpr int dragSteps = 8;
+
+QPointF centreOf(const QQuickItem* item)
+{
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+}
+
+// Items of a window are its visual tree, whatever their QObject parents.
+QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
+{
+    for (QQuickItem* child : root->childItems()) {
+        if (child->objectName() == name)
+            return child;
+        if (QQuickItem* found = findVisualItem(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+ScriptPlayer::ScriptPlayer(std::function<QObject*()> root, QString screenshotPath)
+    : m_root(std::move(root))
+    , m_screenshotPath(std::move(screenshotPath))
+{}
+
+void ScriptPlayer::setSteps(std::vector<Step> steps)
+{
+    m_steps = std::move(steps);
+    m_next = 0;
+}
+
+void ScriptPlayer::start()
+{
+    QTimer::singleShot(stepIntervalMs, this, &ScriptPlayer::next);
+}
+
+void ScriptPlayer::next()
+{
+    if (m_next == m_steps.size())
+        return;
+    // Scheduled first: a step may block in a modal loop of its own, which runs the next one.
+    QTimer::singleShot(stepIntervalMs, this, &ScriptPlayer::next);
+    m_steps[m_next++]();
+}
+
+QObject* ScriptPlayer::object(const char* name) const
+{
+    QObject* root = m_root();
+    QObject* found = root ? root->findChild<QObject*>(QLatin1String(name)) : nullptr;
+    if (!found)
+        qWarning() << "The script found no item" << name;
+    return found;
+}
+
+QQuickItem* ScriptPlayer::item(const char* name) const
+{
+    return qobject_cast<QQuickItem*>(object(name));
+}
+
+QQuickItem* ScriptPlayer::itemAt(const char* name, int index) const
+{
+    QQuickItem* found = nullptr;
+    if (QObject* owner = object(name))
+        QMetaObject::invokeMethod(owner, "itemAt", Q_RETURN_ARG(QQuickItem*, found), Q_ARG(int, index));
+    return found;
+}
+
+void ScriptPlayer::click(const char* name, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
+{
+    clickItem(item(name), name, button, modifiers);
+}
+
+void ScriptPlayer::clickItem(QQuickItem* item, const char* name, Qt::MouseButton button,
+                             Qt::KeyboardModifiers modifiers)
+{
+    if (!item || !item->window()) {
+        qWarning() << "The script found no item" << name;
+        return;
+    }
+    const QPointF centre = centreOf(item);
+    // The pointer goes there first: a menu pops up at it and takes clicks only on an entry it entered.
+    QCursor::setPos(item->window()->mapToGlobal(centre.toPoint()));
+    sendMouse(item->window(), QEvent::MouseMove, centre, Qt::NoButton, Qt::NoButton, modifiers);
+    sendMouse(item->window(), QEvent::MouseButtonPress, centre, button, button, modifiers);
+    sendMouse(item->window(), QEvent::MouseButtonRelease, centre, button, Qt::NoButton, modifiers);
+}
+
+void ScriptPlayer::doubleClickItem(QQuickItem* item, const char* name)
+{
+    clickItem(item, name);
+    if (!item || !item->window())
+        return;
+    const QPointF centre = centreOf(item);
+    sendMouse(item->window(), QEvent::MouseButtonPress, centre, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(item->window(), QEvent::MouseButtonDblClick, centre, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(item->window(), QEvent::MouseButtonRelease, centre, Qt::LeftButton, Qt::NoButton);
+}
+
+void ScriptPlayer::dragItem(QQuickItem* from, QQuickItem* to, const char* name)
+{
+    if (!from || !to || !from->window()) {
+        qWarning() << "The script found no item" << name;
+        return;
+    }
+    QWindow* window = from->window();
+    const QPointF start = centreOf(from);
+    const QPointF end = centreOf(to);
+    sendMouse(window, QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+    for (int step = 1; step <= dragSteps; ++step) {
+        const QPointF at = start + (end - start) * step / dragSteps;
+        sendMouse(window, QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton);
+    }
+    sendMouse(window, QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
+}
+
+QQuickItem* ScriptPlayer::focusOn(const char* name) const
+{
+    QQuickItem* target = item(name);
+    if (target)
+        target->forceActiveFocus();
+    return target && target->window() ? target : nullptr;
+}
+
+void ScriptPlayer::typeInto(const char* name, const QString& text)
+{
+    QQuickItem* target = focusOn(name);
+    if (!target)
+        return;
+    for (const QChar character : text) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
+        QKeyEvent release(QEvent::KeyRelease, 0, Qt::NoModifier, QString(character));
+        QGuiApplication::sendEvent(target->window(), &press);
+        QGuiApplication::sendEvent(target->window(), &release);
+    }
+}
+
+void ScriptPlayer::pressKey(const char* name, Qt::Key key)
+{
+    QQuickItem* target = focusOn(name);
+    if (!target)
+        return;
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+    QGuiApplication::sendEvent(target->window(), &press);
+    QGuiApplication::sendEvent(target->window(), &release);
+}
+
+void ScriptPlayer::clickTab(const char* notebook, int page)
+{
+    clickItem(itemAt(notebook, page), notebook);
+}
+
+void ScriptPlayer::clickMenuEntry(const char* menu, const char* identifier)
+{
+    QObject* owner = object(menu);
+    const int count = owner ? owner->property("count").toInt() : 0;
+    for (int index = 0; index < count; ++index) {
+        QQuickItem* entry = itemAt(menu, index);
+        const auto* action = entry ? entry->property("action").value<QObject*>() : nullptr;
+        if (action && action->objectName() == QLatin1String(identifier)) {
+            clickItem(entry, identifier);
+            return;
+        }
+    }
+    qWarning() << "The script found no menu entry" << identifier;
+}
+
+void ScriptPlayer::clickInMessageBox(int button)
+{
+    const QString name = QStringLiteral("messageButton%1").arg(button);
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        auto* quickWindow = qobject_cast<QQuickWindow*>(window);
+        if (!quickWindow || !quickWindow->isVisible())
+            continue;
+        if (QQuickItem* box = findVisualItem(quickWindow->contentItem(), QStringLiteral("MessageBox"))) {
+            clickItem(findVisualItem(box, name), qPrintable(name));
+            return;
+        }
+    }
+    qWarning() << "The script found no message box";
+}
+
+void ScriptPlayer::setOn(const char* name, const char* property, const QVariant& value)
+{
+    if (QObject* target = object(name))
+        target->setProperty(property, value);
+}
+
+void ScriptPlayer::sendMouse(QWindow* window, QEvent::Type type, const QPointF& at, Qt::MouseButton button,
+                             Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+{
+    QMouseEvent event(type, at, at, window->mapToGlobal(at.toPoint()), button, buttons, modifiers);
+    QGuiApplication::sendEvent(window, &event);
+}
+
+void ScriptPlayer::saveScreenshot()
+{
+    // grabWindow() gives nothing with the software backend offscreen; an item grab does.
+    auto* root = qobject_cast<QQuickItem*>(m_root());
+    m_grab = root ? root->grabToImage() : nullptr;
+    if (!m_grab) {
+        qWarning() << "Could not grab the sample for a screenshot";
+        return;
+    }
+    connect(m_grab.data(), &QQuickItemGrabResult::ready, this, [this] {
+        m_screenshotSaved = m_grab->image().save(m_screenshotPath);
+        if (!m_screenshotSaved)
+            qWarning() << "Could not save a screenshot to" << m_screenshotPath;
+    });
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QEvent>
+#include <QObject>
+#include <QSharedPointer>
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <vector>
+
+class QQuickItem;
+class QQuickItemGrabResult;
+class QWindow;
+
+// Plays a user through a sample's real QML items while it runs modally: one
+// step after another, from the sample's own event loops. Items are found by
+// object name under the root the sample gives; a step that finds nothing warns
+// with "The script found no ..." and the run goes on.
+class ScriptPlayer : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Step = std::function<void()>;
+
+    ScriptPlayer(std::function<QObject*()> root, QString screenshotPath);
+
+    void setSteps(std::vector<Step> steps);
+    // Starts the steps; they run from the sample's modal loop.
+    void start();
+    bool screenshotSaved() const { return m_screenshotSaved; }
+
+    QQuickItem* item(const char* name) const;
+    // The item a tab bar, a menu or a view gives for that index.
+    QQuickItem* itemAt(const char* name, int index) const;
+
+    void click(const char* name, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void clickItem(QQuickItem* item, const char* name, Qt::MouseButton button = Qt::LeftButton,
+                   Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void doubleClickItem(QQuickItem* item, const char* name);
+    // Presses on one item, moves over the other in a few steps and releases there.
+    void dragItem(QQuickItem* from, QQuickItem* to, const char* name);
+    // Gives the item the focus and types into it, one key event per character.
+    void typeInto(const char* name, const QString& text);
+    void pressKey(const char* name, Qt::Key key);
+    void clickTab(const char* notebook, int page);
+    void clickMenuEntry(const char* menu, const char* identifier);
+    // Clicks a button of the message box shown on top, in its own modal loop.
+    void clickInMessageBox(int button);
+    void setOn(const char* name, const char* property, const QVariant& value);
+    template<typename... Arguments>
+    void invoke(const char* name, const char* method, Arguments... arguments)
+    {
+        QMetaObject::invokeMethod(object(name), method, arguments...);
+    }
+    // Grabs the root item; the file is written when the grab is ready.
+    void saveScreenshot();
+
+private:
+    void next();
+    QObject* object(const char* name) const;
+    QQuickItem* focusOn(const char* name) const;
+    static void sendMouse(QWindow* window, QEvent::Type type, const QPointF& at, Qt::MouseButton button,
+                          Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    const std::function<QObject*()> m_root;
+    const QString m_screenshotPath;
+    std::vector<Step> m_steps;
+    size_t m_next = 0;
+    QSharedPointer<QQuickItemGrabResult> m_grab;
+    bool m_screenshotSaved = false;
+};
