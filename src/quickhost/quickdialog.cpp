@@ -37,6 +37,9 @@ QuickDialog::~QuickDialog() = default;
 
 void QuickDialog::Show()
 {
+    // The window and its root show together, as they hide together.
+    if (QQuickItem* root = d->content.root())
+        root->setVisible(true);
     d->content.window().show();
 }
 
@@ -160,6 +163,11 @@ void QuickDialog::connectRoot()
     QQuickItem* root = d->content.root();
     if (!root)
         return;
+    // Dialog code that hides the root (qwxWindow::Hide) means the dialog to leave the screen.
+    connect(root, &QQuickItem::visibleChanged, this, [this, root] {
+        if (!root->isVisible())
+            d->content.window().hide();
+    });
     // Only a DialogAV root ends itself; other roots are ended by dialog code.
     const QMetaObject* meta = root->metaObject();
     if (meta->indexOfSignal("accepted()") >= 0)

@@ -2,6 +2,8 @@
 
 #include "quickdialog.h"
 
+#include <QQuickWindow>
+
 #include <algorithm>
 
 namespace dbr::quickhost {
@@ -18,14 +20,45 @@ std::unique_ptr<IWxQtDialog> QuickGuiController::createDialog(const QUrl& url, B
     return std::make_unique<QuickDialog>(m_engine, url, controller);
 }
 
+namespace {
+constexpr int contextDialogGap = 8;
+}
+
 void QuickGuiController::attachContextDialog(IWxQtDialog* dialog)
 {
+    if (!dialog)
+        return;
+    placeBesideAnchor(dialog);
     m_attached.push_back(dialog);
 }
 
 void QuickGuiController::detachContextDialog(IWxQtDialog* dialog)
 {
     m_attached.erase(std::remove(m_attached.begin(), m_attached.end(), dialog), m_attached.end());
+    if (auto* quickDialog = dynamic_cast<QuickDialog*>(dialog))
+        quickDialog->window().setTransientParent(nullptr);
+}
+
+void QuickGuiController::setContextDialogAnchor(QWindow* anchor)
+{
+    m_anchor = anchor;
+}
+
+void QuickGuiController::placeBesideAnchor(IWxQtDialog* dialog) const
+{
+    auto* quickDialog = dynamic_cast<QuickDialog*>(dialog);
+    if (!quickDialog || !m_anchor)
+        return;
+    // Stacked down the anchor's right edge, below those attached before.
+    int top = m_anchor->y();
+    for (IWxQtDialog* attached : m_attached) {
+        if (auto* above = dynamic_cast<QuickDialog*>(attached))
+            top = std::max(top, above->window().geometry().bottom() + contextDialogGap);
+    }
+    QQuickWindow& window = quickDialog->window();
+    window.setTransientParent(m_anchor);
+    window.setFlag(Qt::Tool);
+    window.setPosition(m_anchor->geometry().right() + contextDialogGap, top);
 }
 
 bool QuickGuiController::acceptsColor(const OdCmColor&, int)

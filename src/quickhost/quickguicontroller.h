@@ -3,9 +3,13 @@
 #include <dlgbridge/services/guicontrolleradapter.h>
 #include <quickhost/quickhost_export.h>
 
+#include <QPointer>
+#include <QWindow>
+
 #include <vector>
 
 class QQmlEngine;
+class QWindow;
 
 namespace dbr::quickhost {
 
@@ -40,9 +44,15 @@ public:
 
     // The command context dialogs attached now, in the order they came.
     const std::vector<IWxQtDialog*>& attachedDialogs() const;
+    // The window whose right edge attached dialogs line up on, the command
+    // line's; without one they stay where their window puts them.
+    void setContextDialogAnchor(QWindow* anchor);
 
 private:
+    void placeBesideAnchor(IWxQtDialog* dialog) const;
+
     QQmlEngine& m_engine;
+    QPointer<QWindow> m_anchor;
     std::vector<IWxQtDialog*> m_attached;
     OdCmColor m_byLayer;
 };

@@ -1,18 +1,20 @@
 #pragma once
 
+#include "quickcommandline.h"
 #include "quickdialogfactory.h"
 #include "quickguicontroller.h"
 #include <quickhost/quickhost_export.h>
 
 #include <QQmlEngine>
 
-#include <oa/OaApp.h>
+#include <ca/CaApp.h>
 
 namespace dbr::quickhost {
 
 // The reference application: one QML engine that reaches the component kit,
-// the GUI controller and the dialog factory built on it, and the application
-// object, installed as oa::OaApp::s_app for the host's lifetime.
+// the GUI controller and the dialog factory built on it, the command line,
+// installed as the input processor, and the application object, installed as
+// oa::OaApp::s_app, both for the host's lifetime.
 class DLGBRIDGE_QUICKHOST_EXPORT QuickHost
 {
 public:
@@ -24,6 +26,8 @@ public:
     QQmlEngine& engine() { return m_engine; }
     QuickGuiController& guiController() { return m_guiController; }
     QuickDialogFactory& dialogFactory() { return m_dialogFactory; }
+    QuickCommandLine& commandLine() { return m_commandLine; }
+    ca::CaApp& application() { return m_app; }
 
 private:
     Q_DISABLE_COPY(QuickHost)
@@ -31,7 +35,8 @@ private:
     QQmlEngine m_engine;
     QuickGuiController m_guiController;
     QuickDialogFactory m_dialogFactory;
-    oa::OaApp m_app;
+    QuickCommandLine m_commandLine;
+    ca::CaApp m_app;
 };
 
 } // namespace dbr::quickhost

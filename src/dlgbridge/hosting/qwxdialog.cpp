@@ -327,11 +327,6 @@ bool doLoadDialog(qwxDialog* dialog, wxWindow* parent, const QUrl& url, EResizab
 
 } // namespace wut
 
-int ShowModal(qwxDialog* dialog)
-{
-    return dialog->ShowModal();
-}
-
 void EndModal(qwxDialog* dialog, int returnCode)
 {
     if (!dialog)

@@ -91,7 +91,8 @@ DLGBRIDGE_EXPORT bool doLoadDialog(qwxDialog* dialog, wxWindow* parent, const QU
 
 } // namespace wut
 
-// The modal run that dialog code should use, so that GUI tests can drive it.
+// The modal run that dialog code should use, so that GUI tests can drive it
+// (see ModalRunner, beside which it is defined).
 DLGBRIDGE_EXPORT int ShowModal(qwxDialog* dialog);
 // Ends a modal run; a dialog shown without a loop is hidden with the code kept.
 DLGBRIDGE_EXPORT void EndModal(qwxDialog* dialog, int returnCode);

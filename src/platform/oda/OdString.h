@@ -17,6 +17,17 @@ public:
     const OdChar* c_str() const { return m_text.c_str(); }
     int getLength() const { return static_cast<int>(m_text.size()); }
     bool isEmpty() const { return m_text.empty(); }
+    // As in the SDK, an index past the end is the caller's fault.
+    OdChar getAt(int index) const { return m_text[static_cast<size_t>(index)]; }
+    // Replaces every oldChar and returns how many there were.
+    int replace(OdChar oldChar, OdChar newChar);
+
+    OdString& operator+=(const OdString& other)
+    {
+        m_text += other.m_text;
+        return *this;
+    }
+    friend OdString operator+(OdString a, const OdString& b) { return a += b; }
 
     friend bool operator==(const OdString& a, const OdString& b) { return a.m_text == b.m_text; }
     friend bool operator!=(const OdString& a, const OdString& b) { return !(a == b); }
