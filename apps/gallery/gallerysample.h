@@ -4,6 +4,10 @@
 
 class QTextStream;
 
+namespace dbr::quickhost {
+class QuickHost;
+}
+
 struct SampleOptions
 {
     // Without a display a script plays the sample through its real QML items.
@@ -21,5 +25,5 @@ public:
     // Runs the sample to its end and writes what its dialog code saw to out.
     // Returns the process's exit code: a scripted run fails when it did not
     // end as its script meant or left no screenshot.
-    virtual int run(const SampleOptions& options, QTextStream& out) = 0;
+    virtual int run(dbr::quickhost::QuickHost& host, const SampleOptions& options, QTextStream& out) = 0;
 };

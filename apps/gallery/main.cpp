@@ -82,5 +82,5 @@ int main(int argc, char** argv)
     if (screenshot.isEmpty())
         screenshot = QStringLiteral(GALLERY_SCREENSHOT_DIR "/gallery-%1.png").arg(QLatin1String(entry->name));
     dbr::quickhost::QuickHost host({QStringLiteral(GALLERY_QML_IMPORT_DIR)});
-    return entry->make()->run({scripted, screenshot}, out);
+    return entry->make()->run(host, {scripted, screenshot}, out);
 }

@@ -42,7 +42,7 @@ std::vector<ScriptPlayer::Step> printSteps(ScriptPlayer& script, PrintDialog& di
 
 } // namespace
 
-int PrintSample::run(const SampleOptions& options, QTextStream& out)
+int PrintSample::run(dbr::quickhost::QuickHost&, const SampleOptions& options, QTextStream& out)
 {
     PrintDialog dialog;
     dialog.load();

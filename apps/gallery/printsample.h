@@ -8,5 +8,5 @@
 class PrintSample : public GallerySample
 {
 public:
-    int run(const SampleOptions& options, QTextStream& out) override;
+    int run(dbr::quickhost::QuickHost& host, const SampleOptions& options, QTextStream& out) override;
 };

@@ -1,5 +1,6 @@
 #include "samples.h"
 
+#include "commandsample.h"
 #include "printsample.h"
 
 const std::vector<SampleEntry>& gallerySamples()
@@ -7,6 +8,8 @@ const std::vector<SampleEntry>& gallerySamples()
     static const std::vector<SampleEntry> samples = {
         {"print", "a print dialog: validators, a notebook, a context menu, a timer",
          [] { return std::make_unique<PrintSample>(); }},
+        {"command", "a drawing command with its options in a command context dialog beside the command line",
+         [] { return std::make_unique<CommandSample>(); }},
     };
     return samples;
 }

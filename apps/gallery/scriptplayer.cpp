@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QQuickItem>
 #include <QQuickItemGrabResult>
 #include <QQuickWindow>
@@ -209,18 +210,44 @@ void ScriptPlayer::sendMouse(QWindow* window, QEvent::Type type, const QPointF& 
     QGuiApplication::sendEvent(window, &event);
 }
 
-void ScriptPlayer::saveScreenshot()
+void ScriptPlayer::saveScreenshot(const QList<QQuickItem*>& besides)
 {
     // grabWindow() gives nothing with the software backend offscreen; an item grab does.
-    auto* root = qobject_cast<QQuickItem*>(m_root());
-    m_grab = root ? root->grabToImage() : nullptr;
-    if (!m_grab) {
-        qWarning() << "Could not grab the sample for a screenshot";
+    QList<QQuickItem*> items{qobject_cast<QQuickItem*>(m_root())};
+    items += besides;
+    m_grabs.clear();
+    if (items.contains(nullptr)) {
+        qWarning() << "The script found no window to grab for a screenshot";
         return;
     }
-    connect(m_grab.data(), &QQuickItemGrabResult::ready, this, [this] {
-        m_screenshotSaved = m_grab->image().save(m_screenshotPath);
-        if (!m_screenshotSaved)
-            qWarning() << "Could not save a screenshot to" << m_screenshotPath;
-    });
+    for (QQuickItem* item : qAsConst(items)) {
+        const auto grab = item->window() ? item->grabToImage() : nullptr;
+        if (!grab) {
+            qWarning() << "Could not grab the sample for a screenshot";
+            m_grabs.clear();
+            return;
+        }
+        m_grabs.push_back({grab, item->window()->position()});
+        connect(grab.data(), &QQuickItemGrabResult::ready, this, &ScriptPlayer::composeScreenshot);
+    }
+}
+
+void ScriptPlayer::composeScreenshot()
+{
+    QRect bounds;
+    for (const Grab& grab : m_grabs) {
+        if (grab.result->image().isNull())
+            return;
+        bounds |= QRect(grab.at, grab.result->image().size());
+    }
+    // Each grab where its window stands, on the bounds of them all.
+    QImage screenshot(bounds.size(), QImage::Format_ARGB32);
+    screenshot.fill(Qt::transparent);
+    QPainter painter(&screenshot);
+    for (const Grab& grab : m_grabs)
+        painter.drawImage(grab.at - bounds.topLeft(), grab.result->image());
+    painter.end();
+    m_screenshotSaved = screenshot.save(m_screenshotPath);
+    if (!m_screenshotSaved)
+        qWarning() << "Could not save a screenshot to" << m_screenshotPath;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QEvent>
+#include <QList>
+#include <QPoint>
 #include <QObject>
 #include <QSharedPointer>
 #include <QString>
@@ -55,11 +57,13 @@ public:
     {
         QMetaObject::invokeMethod(object(name), method, arguments...);
     }
-    // Grabs the root item; the file is written when the grab is ready.
-    void saveScreenshot();
+    // Grabs the root item, with the windows of the given items where they stand
+    // beside it; the file is written when every grab is ready.
+    void saveScreenshot(const QList<QQuickItem*>& besides = {});
 
 private:
     void next();
+    void composeScreenshot();
     QObject* object(const char* name) const;
     QQuickItem* focusOn(const char* name) const;
     static void sendMouse(QWindow* window, QEvent::Type type, const QPointF& at, Qt::MouseButton button,
@@ -69,6 +73,11 @@ private:
     const QString m_screenshotPath;
     std::vector<Step> m_steps;
     size_t m_next = 0;
-    QSharedPointer<QQuickItemGrabResult> m_grab;
+    struct Grab
+    {
+        QSharedPointer<QQuickItemGrabResult> result;
+        QPoint at;
+    };
+    std::vector<Grab> m_grabs;
     bool m_screenshotSaved = false;
 };

@@ -134,7 +134,7 @@ void QuickCommandLine::keyPressed(int key, const QString& text)
         onChar(character.unicode());
 }
 
-void QuickCommandLine::submit(const QString& text)
+void QuickCommandLine::submit(QString text)
 {
     print(prompt() + text);
     setInput(QString());

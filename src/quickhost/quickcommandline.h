@@ -70,7 +70,8 @@ Q_SIGNALS:
     void transcriptChanged();
 
 private:
-    void submit(const QString& text);
+    // By value: the text is often the input, which submitting clears.
+    void submit(QString text);
     void startCommand(const QString& name);
     void answerPrompt(const QString& text);
     void cancel();
