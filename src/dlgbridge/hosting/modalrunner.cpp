@@ -41,7 +41,8 @@ int runUnderTest(qwxDialog* dialog, ModalRunner& runner)
         if (!active)
             throw;
         active->setException(failure.clone());
-        dialog->qwxWindow::Hide();
+        // The window's Hide, which dialog code may have made its own; not the dialog's Hide(code).
+        static_cast<qwxWindow*>(dialog)->Hide();
         throw OdEdCancel();
     }
     // What the action posted (an end request, say) is delivered before the code is read.
