@@ -11,7 +11,6 @@
 #include <QLoggingCategory>
 #include <QTextStream>
 
-
 namespace {
 
 bool hasDisplay()

@@ -80,7 +80,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<Post>("post");
         QTest::addColumn<QStringList>("received");
-        const auto option = [](const char* word) { return [word](QObject* context) { invokeCommandLineOption(context, word); }; };
+        const auto option = [](const char* word) {
+            return [word](QObject* context) { invokeCommandLineOption(context, word); };
+        };
         QTest::newRow("accept is Enter") << Post(acceptCommandLine) << QStringList{"char 13"};
         QTest::newRow("reject is Escape") << Post(rejectCommandLine) << QStringList{"char 27"};
         QTest::newRow("option gets its underscore") << Post(option("Circle")) << QStringList{"command _Circle 16 0"};
@@ -119,8 +121,8 @@ private Q_SLOTS:
         commandLine.setGeometry(100, 100, 400, 200);
         m_host->guiController().setContextDialogAnchor(&commandLine);
         auto controller = std::make_shared<CommandContextDialogController>();
-        auto session = CommandContextDialogSession::create(m_host->application(), testDataUrl("contextdialog.qml"),
-                                                           controller);
+        auto session =
+            CommandContextDialogSession::create(m_host->application(), testDataUrl("contextdialog.qml"), controller);
 
         const auto& attached = m_host->guiController().attachedDialogs();
         QCOMPARE(attached.size(), size_t(1));
@@ -142,8 +144,8 @@ private Q_SLOTS:
     void closeButton_pressesEscapeAndLeavesTheDialogOpen()
     {
         auto controller = std::make_shared<CommandContextDialogController>();
-        auto session = CommandContextDialogSession::create(m_host->application(), testDataUrl("contextdialog.qml"),
-                                                           controller);
+        auto session =
+            CommandContextDialogSession::create(m_host->application(), testDataUrl("contextdialog.qml"), controller);
         auto* dialog = dynamic_cast<quickhost::QuickDialog*>(m_host->guiController().attachedDialogs().front());
         QVERIFY(QTest::qWaitForWindowExposed(&dialog->window()));
         clickItem(dialog->root()->findChild<QQuickItem*>(QStringLiteral("closeButton")));
@@ -155,8 +157,8 @@ private Q_SLOTS:
     void disablers_greyThePanelOutUntilTheFirstGoes()
     {
         auto controller = std::make_shared<CommandContextDialogController>();
-        auto session = CommandContextDialogSession::create(m_host->application(), testDataUrl("contextdialog.qml"),
-                                                           controller);
+        auto session =
+            CommandContextDialogSession::create(m_host->application(), testDataUrl("contextdialog.qml"), controller);
         QObject* panel = m_host->guiController().attachedDialogs().front()->root();
         QSignalSpy notified(controller.get(), &CommandContextDialogController::panelEnabledChanged);
         QVERIFY(notified.isValid());

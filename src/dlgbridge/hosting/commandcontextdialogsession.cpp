@@ -16,8 +16,7 @@ namespace {
 constexpr DialogOptions contextDialogOptions{1, 1, 0};
 
 // Without the application's services there is no panel, and the command runs without one.
-std::unique_ptr<IWxQtDialog> createContextDialog(ca::CaApp& app, const QUrl& url,
-                                                 BaseDialogController* controller)
+std::unique_ptr<IWxQtDialog> createContextDialog(ca::CaApp& app, const QUrl& url, BaseDialogController* controller)
 {
     IGuiController* gui = app.guiController();
     return gui ? gui->createDialog(url, controller, NotResizable, contextDialogOptions, nullptr) : nullptr;
@@ -56,8 +55,8 @@ CommandContextDialogSession::create(ca::CaApp& app, const QUrl& url,
 
 CommandContextDialogSession::CommandContextDialogSession(ca::CaApp& app, const QUrl& url,
                                                          std::shared_ptr<CommandContextDialogController> contents)
-    : d(std::make_unique<CommandContextDialogSessionPrivate>(CommandContextDialogSessionPrivate{
-          createContextDialog(app, url, contents.get()), app, contents}))
+    : d(std::make_unique<CommandContextDialogSessionPrivate>(
+          CommandContextDialogSessionPrivate{createContextDialog(app, url, contents.get()), app, contents}))
 {
     if (!d->dialog)
         return;

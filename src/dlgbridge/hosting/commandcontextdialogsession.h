@@ -33,8 +33,8 @@ struct DLGBRIDGE_EXPORT CommandContextDialogDisabler
 class DLGBRIDGE_EXPORT CommandContextDialogSession
 {
 public:
-    static std::shared_ptr<CommandContextDialogSession> create(ca::CaApp& app, const QUrl& url,
-                                                               std::shared_ptr<CommandContextDialogController> contents);
+    static std::shared_ptr<CommandContextDialogSession>
+    create(ca::CaApp& app, const QUrl& url, std::shared_ptr<CommandContextDialogController> contents);
     ~CommandContextDialogSession();
     CommandContextDialogSession(const CommandContextDialogSession&) = delete;
     CommandContextDialogSession& operator=(const CommandContextDialogSession&) = delete;

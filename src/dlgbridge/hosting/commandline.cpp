@@ -42,9 +42,7 @@ void invokeCommandLineOption(QObject* context, OdString option)
         return;
     if (option.getAt(0) != L'_')
         option = OdString("_") + option;
-    post(context, [option] {
-        ca::InputProcessor::get().onCommand(option, ca::InputProcessor::kContextDialog, 0);
-    });
+    post(context, [option] { ca::InputProcessor::get().onCommand(option, ca::InputProcessor::kContextDialog, 0); });
 }
 
 } // namespace dbr
