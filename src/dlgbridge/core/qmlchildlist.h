@@ -14,6 +14,8 @@ class QObject;
 namespace dbr {
 
 class QmlChildListPrivate;
+class qwxDragDropEvent;
+class qwxTreeEvent;
 
 // The wrappers of every named item under one QML root, keyed by object name,
 // with the callback objects of their connections. A host owns one; populate()
@@ -92,6 +94,18 @@ public:
     // Ticks of the timer with that id reach the handler; id -1 hears every timer.
     void connectToTimerEvent(qwxWindow& window, int id, EventHandler<qwxTimerEvent> handler);
 
+    // Tree connections (defined with the tree control): their events name rows by id.
+    // A name without a tree control drops the handler.
+    void connectToTreeSelChangedEvent(const OdString& name, EventHandler<qwxTreeEvent> handler);
+    void connectToLeftDoubleClick(const OdString& name, EventHandler<qwxTreeEvent> handler);
+    // The handler answers with qwxTreeEvent::SetToolTip.
+    void connectToTreeItemGetToolTip(const OdString& name, EventHandler<qwxTreeEvent> handler);
+    void connectToEndLabelEdit(const OdString& name, EventHandler<qwxTreeEvent> handler);
+    // Asked whenever the view wants to know whether a label may be edited; a veto refuses.
+    void connectToBeginLabelEdit(const OdString& name, EventHandler<qwxTreeEvent> handler);
+    void connectToBeginDrag(const OdString& name, EventHandler<qwxDragDropEvent> handler);
+    void connectToEndDrag(const OdString& name, EventHandler<qwxDragDropEvent> handler);
+
 private:
     Q_DISABLE_COPY(QmlChildList)
 
@@ -109,6 +123,9 @@ private:
     void connectCommand(const char* signal, const char* slot, const OdString& name,
                         EventHandler<qwxCommandEvent> handler, const QStringList& types,
                         std::function<qwxCommandEvent(qwxWindow*)> eventBuilder = {});
+
+    template<typename Callback, typename Event>
+    void connectTree(const char* signal, const char* slot, const OdString& name, EventHandler<Event> handler);
 
     qwxWindow& parent() const;
     static void reportTypeMismatch(const OdString& name, const qwxWindow& window, const QString& expectedType);

@@ -47,8 +47,7 @@ public:
 
     explicit TreeModel(QObject* parent = nullptr)
         : QAbstractItemModel(parent)
-    {
-    }
+    {}
     ~TreeModel() override = default;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
@@ -200,18 +199,16 @@ template<typename T>
 typename TreeModel<T>::Item* TreeModel<T>::insertItem(Item& parent, int position, std::unique_ptr<Item> item)
 {
     Q_ASSERT(item);
-    // Announced before the position is checked, so a refused insert still
-    // shows views a matching begin/end pair.
-    beginInsertRows(createItemIndex(&parent), position, position);
-    Item* inserted = nullptr;
-    if (position >= 0 && position <= static_cast<int>(parent.children.size())) {
-        item->parent = &parent;
-        inserted = item.get();
-        parent.children.insert(parent.children.begin() + position, std::move(item));
-    } else {
+    // Nothing is announced for a row that never arrives: a proxy above would
+    // keep it and trip over it at the next change.
+    if (position < 0 || position > static_cast<int>(parent.children.size())) {
         qDebug("Trying to insert item out of bounds");
-        item.reset();
+        return nullptr;
     }
+    beginInsertRows(createItemIndex(&parent), position, position);
+    item->parent = &parent;
+    Item* inserted = item.get();
+    parent.children.insert(parent.children.begin() + position, std::move(item));
     endInsertRows();
     return inserted;
 }

@@ -16,6 +16,7 @@
 #include <dlgbridge/controls/qwxtogglebutton.h>
 #include <dlgbridge/core/wrapperkinds.h>
 #include <dlgbridge/hosting/qwxpanel.h>
+#include <dlgbridge/views/qwxtreectrl.h>
 
 #include <QHash>
 #include <QObject>
@@ -59,6 +60,7 @@ QHash<QString, StandardWrapperFactory> makeTable()
         {QStringLiteral("SearchField"), &make<qwxSearchCtrl>},
         {QStringLiteral("ImageButton"), &make<qwxBitmapButton>},
         {QStringLiteral("TabBar"), &make<qwxNotebook>},
+        {QStringLiteral("TreeViewAV"), &make<qwxTreeCtrl>},
         {QStringLiteral("Panel"), &make<qwxPanel>},
         {QStringLiteral("Pane"), &make<qwxPanel>},
         {QStringLiteral("ComboBox"), &makeCombo},
