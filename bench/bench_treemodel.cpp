@@ -239,13 +239,6 @@ void indexWithQt(benchmark::State& state, int count)
         benchmark::DoNotOptimize(last->index());
 }
 
-template<typename Ours, typename Qt, typename... Args>
-void registerPair(const std::string& name, Ours ours, Qt qt, Args... args)
-{
-    benchmark::RegisterBenchmark((name + "/ours").c_str(), ours, args...)->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark((name + "/qt").c_str(), qt, args...)->Unit(benchmark::kMicrosecond);
-}
-
 } // namespace
 
 void registerBenchmarks()

