@@ -1,5 +1,6 @@
 // The C++ part of the Arvela.Components module.
 #include "imagecanvas.h"
+#include "sortfilterselectmodel.h"
 
 #include <QQmlExtensionPlugin>
 #include <qqml.h>
@@ -12,7 +13,11 @@ class ComponentsPlugin : public QQmlExtensionPlugin
     Q_PLUGIN_METADATA(IID QQmlExtensionInterface_iid)
 
 public:
-    void registerTypes(const char* uri) override { qmlRegisterType<ImageCanvas>(uri, 1, 0, "ImageCanvas"); }
+    void registerTypes(const char* uri) override
+    {
+        qmlRegisterType<ImageCanvas>(uri, 1, 0, "ImageCanvas");
+        qmlRegisterType<SortFilterSelectModel>(uri, 1, 0, "SortFilterSelectModel");
+    }
 };
 
 } // namespace dbr::components
