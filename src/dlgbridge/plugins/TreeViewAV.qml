@@ -297,20 +297,20 @@ Controls.Control {
 
             Row {
                 id: content
-                x: (model.kDescendantLevel - 1) * tree.indentation
+                x: (model.level - 1) * tree.indentation
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: 4
 
                 Controls.Label {
                     width: tree.indentation
-                    text: model.kDescendantExpandable ? "\u25B8" : ""
-                    rotation: model.kDescendantExpanded ? 90 : 0
+                    text: model.expandable ? "\u25B8" : ""
+                    rotation: model.expanded ? 90 : 0
                     horizontalAlignment: Text.AlignHCenter
                     color: model.selected ? tree.palette.highlightedText : tree.palette.text
 
                     MouseArea {
                         anchors.fill: parent
-                        enabled: !!model.kDescendantExpandable
+                        enabled: !!model.expandable
                         onClicked: tree.doToggle(row.modelIndex())
                     }
                 }

@@ -1,56 +1,13 @@
 #include "sortfilterselectmodel.h"
 
-#include <KDescendantsProxyModel>
+#include "visiblerows.h"
 
 #include <QItemSelectionModel>
-#include <QSet>
 #include <QVector>
 
 #include <utility>
 
 namespace dbr::components {
-
-namespace {
-
-// Rows from the top down to index: ordering these orders nodes as a flattened tree lists them.
-QVector<int> treePath(QModelIndex index)
-{
-    QVector<int> path;
-    for (; index.isValid(); index = index.parent())
-        path.prepend(index.row());
-    return path;
-}
-
-// KDescendantsProxyModel finds a source index by scanning every block of rows it
-// maps, so expanding n nodes one by one costs n squared: 10,000 take seconds. Its
-// rows list the visible nodes in tree order, so a binary search finds one in log n.
-class VisibleRows : public KDescendantsProxyModel
-{
-public:
-    QModelIndex mapFromSource(const QModelIndex& sourceIndex) const override
-    {
-        // Without rows it maps nothing, as the base has it (hasChildren() is !mapping.isEmpty()).
-        if (!sourceIndex.isValid() || sourceIndex.model() != sourceModel() || !hasChildren() ||
-            !isSourceIndexVisible(sourceIndex))
-            return {};
-        const QVector<int> target = treePath(sourceIndex);
-        int first = 0;
-        int last = rowCount() - 1;
-        while (first <= last) {
-            const int middle = first + (last - first) / 2;
-            const QVector<int> path = treePath(mapToSource(createIndex(middle, 0)));
-            if (path == target)
-                return createIndex(middle, sourceIndex.column());
-            if (path < target)
-                first = middle + 1;
-            else
-                last = middle - 1;
-        }
-        return {};
-    }
-};
-
-} // namespace
 
 class SortFilterSelectModel::Private
 {
@@ -62,57 +19,32 @@ public:
 
     bool owns(const QModelIndex& index) const { return index.isValid() && index.model() == q; }
     void expandWhereWanted(const QModelIndex& index);
+    void expandInsertedWhereWanted();
     void reportSelection();
-    void collapsePending();
-    // The expanded nodes below parent that stay so, parents before their children, shown or not.
-    void collectStillExpanded(const QModelIndex& parent, QVector<QPersistentModelIndex>& expanded) const;
 
     SortFilterSelectModel* const q;
     VisibleRows rows;
     QItemSelectionModel selection;
     QModelIndexList reportedSelection;
-    // Collapses asked for in this turn of the event loop, made together at its end.
-    QSet<QPersistentModelIndex> collapsing;
+    // Rows inserted in this turn of the event loop: a tree marks a new row as one
+    // to expand only after it has announced it.
+    QVector<QPersistentModelIndex> inserted;
 };
 
 // Parents come before their children, which keeps each expansion cheap.
 void SortFilterSelectModel::Private::expandWhereWanted(const QModelIndex& index)
 {
     if (index.isValid() && index.data(WantsToBeExpandedRole).toBool())
-        rows.expandSourceIndex(index);
+        rows.expand(index);
     for (int row = 0, count = q->rowCount(index); row < count; ++row)
         expandWhereWanted(q->index(row, 0, index));
 }
 
-// The flattening rebuilds all of its rows for each collapse, so a thousand
-// collapses in a row (a wrapper's CollapseAll) would take minutes. One alone is
-// made as such; more are made by starting the flattening afresh and expanding
-// again what stays expanded, which costs no more than one expansion each.
-void SortFilterSelectModel::Private::collapsePending()
+void SortFilterSelectModel::Private::expandInsertedWhereWanted()
 {
-    if (collapsing.size() == 1 && collapsing.begin()->isValid() && rows.isSourceIndexVisible(*collapsing.begin())) {
-        rows.collapseSourceIndex(*std::exchange(collapsing, {}).begin());
-        return;
-    }
-    QVector<QPersistentModelIndex> stillExpanded;
-    collectStillExpanded({}, stillExpanded);
-    collapsing.clear();
-    rows.setSourceModel(nullptr);
-    rows.setSourceModel(q);
-    for (const QPersistentModelIndex& index : qAsConst(stillExpanded))
-        rows.expandSourceIndex(index);
-}
-
-void SortFilterSelectModel::Private::collectStillExpanded(const QModelIndex& parent,
-                                                          QVector<QPersistentModelIndex>& expanded) const
-{
-    for (int row = 0, count = q->rowCount(parent); row < count; ++row) {
-        const QModelIndex child = q->index(row, 0, parent);
-        // Nodes below collapsed ones keep their state too, for when they are shown.
-        if (rows.isSourceIndexExpanded(child) && !collapsing.contains(child))
-            expanded.append(child);
-        if (q->hasChildren(child))
-            collectStillExpanded(child, expanded);
+    for (const QPersistentModelIndex& index : std::exchange(inserted, {})) {
+        if (index.isValid())
+            expandWhereWanted(index);
     }
 }
 
@@ -131,7 +63,6 @@ SortFilterSelectModel::SortFilterSelectModel(QObject* parent)
     , d(std::make_unique<Private>(this))
 {
     // The flattening reacts to a change of this model before the handlers below, which expand in it.
-    d->rows.setExpandsByDefault(false);
     d->rows.setSourceModel(this);
 
     connect(&d->selection, &QItemSelectionModel::selectionChanged, this,
@@ -149,8 +80,11 @@ SortFilterSelectModel::SortFilterSelectModel(QObject* parent)
                 Q_EMIT currentIndexChanged(current, previous);
             });
     connect(this, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex& parent, int first, int last) {
+        if (d->inserted.isEmpty())
+            QMetaObject::invokeMethod(
+                this, [this] { d->expandInsertedWhereWanted(); }, Qt::QueuedConnection);
         for (int row = first; row <= last; ++row)
-            d->expandWhereWanted(index(row, 0, parent));
+            d->inserted.append(index(row, 0, parent));
         d->reportSelection();
     });
     connect(this, &QAbstractItemModel::modelReset, this, [this] {
@@ -232,25 +166,19 @@ QModelIndexList SortFilterSelectModel::selectedRows() const
 
 void SortFilterSelectModel::expand(const QModelIndex& index)
 {
-    if (!d->owns(index))
-        return;
-    d->collapsing.remove(index);
-    d->rows.expandSourceIndex(index);
+    if (d->owns(index))
+        d->rows.expand(index);
 }
 
 void SortFilterSelectModel::collapse(const QModelIndex& index)
 {
-    if (!isExpanded(index))
-        return;
-    if (d->collapsing.isEmpty())
-        QMetaObject::invokeMethod(
-            this, [this] { d->collapsePending(); }, Qt::QueuedConnection);
-    d->collapsing.insert(index);
+    if (d->owns(index))
+        d->rows.collapse(index);
 }
 
 bool SortFilterSelectModel::isExpanded(const QModelIndex& index) const
 {
-    return d->owns(index) && d->rows.isSourceIndexExpanded(index) && !d->collapsing.contains(index);
+    return d->owns(index) && d->rows.isExpanded(index);
 }
 
 } // namespace dbr::components

@@ -48,8 +48,6 @@ public:
 
     // A node expanded below a collapsed one shows its children once its ancestors are expanded.
     Q_INVOKABLE void expand(const QModelIndex& index);
-    // The rows go at the end of this turn of the event loop, together with those
-    // of every other collapse asked for in it; isExpanded answers at once.
     Q_INVOKABLE void collapse(const QModelIndex& index);
     Q_INVOKABLE bool isExpanded(const QModelIndex& index) const;
 
