@@ -1,6 +1,7 @@
 #include "samples.h"
 
 #include "commandsample.h"
+#include "layertreesample.h"
 #include "printsample.h"
 
 const std::vector<SampleEntry>& gallerySamples()
@@ -8,6 +9,8 @@ const std::vector<SampleEntry>& gallerySamples()
     static const std::vector<SampleEntry> samples = {
         {"print", "a print dialog: validators, a notebook, a context menu, a timer",
          [] { return std::make_unique<PrintSample>(); }},
+        {"tree", "a layer tree: sorting, a filter, tool tips, renaming in place, drag and drop, a multiple selection",
+         [] { return std::make_unique<LayerTreeSample>(); }},
         {"command", "a drawing command with its options in a command context dialog beside the command line",
          [] { return std::make_unique<CommandSample>(); }},
     };

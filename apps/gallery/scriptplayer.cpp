@@ -140,26 +140,67 @@ QQuickItem* ScriptPlayer::focusOn(const char* name) const
 
 void ScriptPlayer::typeInto(const char* name, const QString& text)
 {
-    QQuickItem* target = focusOn(name);
-    if (!target)
-        return;
-    for (const QChar character : text) {
-        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
-        QKeyEvent release(QEvent::KeyRelease, 0, Qt::NoModifier, QString(character));
-        QGuiApplication::sendEvent(target->window(), &press);
-        QGuiApplication::sendEvent(target->window(), &release);
-    }
+    if (focusOn(name))
+        type(text);
 }
 
 void ScriptPlayer::pressKey(const char* name, Qt::Key key)
 {
-    QQuickItem* target = focusOn(name);
-    if (!target)
+    if (focusOn(name))
+        pressKey(key);
+}
+
+void ScriptPlayer::type(const QString& text)
+{
+    for (const QChar character : text)
+        sendKey(0, QString(character));
+}
+
+void ScriptPlayer::pressKey(Qt::Key key)
+{
+    sendKey(key, QString());
+}
+
+void ScriptPlayer::sendKey(int key, const QString& text)
+{
+    auto* root = qobject_cast<QQuickItem*>(m_root());
+    if (!root || !root->window())
         return;
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
-    QGuiApplication::sendEvent(target->window(), &press);
-    QGuiApplication::sendEvent(target->window(), &release);
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QGuiApplication::sendEvent(root->window(), &press);
+    QGuiApplication::sendEvent(root->window(), &release);
+}
+
+QQuickItem* ScriptPlayer::rowShowing(const char* view, const QString& text) const
+{
+    QQuickItem* owner = item(view);
+    if (!owner)
+        return nullptr;
+    // Rows are the delegates under the list's content item; a row shows its text in a label.
+    const auto lists = owner->findChildren<QQuickItem*>();
+    for (QQuickItem* list : lists) {
+        if (!list->inherits("QQuickListView"))
+            continue;
+        QMetaObject::invokeMethod(list, "forceLayout");
+        for (QQuickItem* row : list->property("contentItem").value<QQuickItem*>()->childItems()) {
+            for (QQuickItem* label : row->findChildren<QQuickItem*>()) {
+                if (label->inherits("QQuickText") && label->isVisible() && label->property("text") == text)
+                    return row;
+            }
+        }
+    }
+    qWarning() << "The script found no row" << text << "in" << view;
+    return nullptr;
+}
+
+void ScriptPlayer::hoverItem(QQuickItem* item, const char* name)
+{
+    if (!item || !item->window()) {
+        qWarning() << "The script found no item" << name;
+        return;
+    }
+    sendMouse(item->window(), QEvent::MouseMove, centreOf(item), Qt::NoButton, Qt::NoButton);
 }
 
 void ScriptPlayer::clickTab(const char* notebook, int page)

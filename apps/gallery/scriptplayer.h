@@ -47,6 +47,13 @@ public:
     // Gives the item the focus and types into it, one key event per character.
     void typeInto(const char* name, const QString& text);
     void pressKey(const char* name, Qt::Key key);
+    // Types into whatever has the focus now, such as an editor a view opened.
+    void type(const QString& text);
+    void pressKey(Qt::Key key);
+    // The row of a list or tree view that shows text.
+    QQuickItem* rowShowing(const char* view, const QString& text) const;
+    // Rests the pointer on the item.
+    void hoverItem(QQuickItem* item, const char* name);
     void clickTab(const char* notebook, int page);
     void clickMenuEntry(const char* menu, const char* identifier);
     // Clicks a button of the message box shown on top, in its own modal loop.
@@ -66,6 +73,7 @@ private:
     void composeScreenshot();
     QObject* object(const char* name) const;
     QQuickItem* focusOn(const char* name) const;
+    void sendKey(int key, const QString& text);
     static void sendMouse(QWindow* window, QEvent::Type type, const QPointF& at, Qt::MouseButton button,
                           Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 

@@ -136,6 +136,8 @@ Controls.Control {
     implicitWidth: 200
     implicitHeight: 200
     focusPolicy: Qt.StrongFocus
+    // Keys are the list's: focus given to the tree goes on to it.
+    onActiveFocusChanged: if (activeFocus) list.forceActiveFocus()
 
     Connections {
         target: tree.model
