@@ -1,7 +1,9 @@
 // The tree control against plain Qt: building rows with AppendItem against
 // QStandardItemModel::appendRow, walking them with GetFirstChild/GetNextChild
-// against index() through a sort proxy, and the real view: expanding and
-// collapsing everything, and renaming every row while the view shows them.
+// against index() through a sort proxy, and the kit's real tree view against a
+// plain ListView of as many rows: expanding everything (against showing the
+// rows), collapsing everything (against taking them away), and renaming every
+// row while the view shows them.
 #include "support/benchmain.h"
 
 #include <dlgbridge/views/qwxtreectrl.h>
@@ -176,6 +178,158 @@ void walkWithQt(benchmark::State& state, int count)
         benchmark::DoNotOptimize(walkQt(proxy, QModelIndex()));
 }
 
+// A window showing one QML item, with a host over it for a control made directly.
+class ShownQml
+{
+public:
+    explicit ShownQml(const QByteArray& item)
+    {
+        m_engine.addImportPath(QStringLiteral(DLGBRIDGE_QML_IMPORT_DIR));
+        QQmlComponent component(&m_engine);
+        component.setData("import QtQuick 2.15\nimport Arvela.Components 1.0\nItem { width: 400; height: 600\n" + item +
+                              "\n}",
+                          QUrl());
+        m_root.reset(qobject_cast<QQuickItem*>(component.create()));
+        m_root->setParentItem(m_window.contentItem());
+        m_window.resize(400, 600);
+        m_window.show();
+        m_host = std::make_unique<Host>(m_root.get());
+        settle();
+    }
+    ~ShownQml() { m_root->setParentItem(nullptr); }
+
+    QObject* item(const char* name) const { return m_root->findChild<QObject*>(QLatin1String(name)); }
+    qwxWindow& host() { return *m_host; }
+    // What the view does with a change happens in the turn of the event loop after it.
+    static void settle() { QCoreApplication::processEvents(); }
+
+private:
+    QQmlEngine m_engine;
+    QQuickWindow m_window;
+    std::unique_ptr<QQuickItem> m_root;
+    std::unique_ptr<Host> m_host;
+};
+
+// Our tree in the kit's tree view, all rows built and the control linked to the view.
+struct ShownTree
+{
+    explicit ShownTree(int count)
+        : qml("TreeViewAV { objectName: 'tree'; anchors.fill: parent }")
+        , tree("tree", qml.host())
+    {
+        buildOurs(tree, count);
+        tree.resyncToUI();
+        ShownQml::settle();
+    }
+
+    ShownQml qml;
+    qwxTreeCtrl tree;
+};
+
+// The baseline view: a plain ListView showing as many rows as our tree shows expanded.
+struct ShownList
+{
+    explicit ShownList(int count)
+        : qml("ListView { objectName: 'list'; anchors.fill: parent; delegate: Text { text: display } }")
+        , list(qml.item("list"))
+    {
+        for (const QString& text : qtTexts(count))
+            rows.appendRow(new QStandardItem(text));
+    }
+
+    void show(QAbstractItemModel* model)
+    {
+        list->setProperty("model", QVariant::fromValue<QObject*>(model));
+        ShownQml::settle();
+    }
+
+    ShownQml qml;
+    QObject* list;
+    QStandardItemModel rows;
+};
+
+void expandAllWithOurs(benchmark::State& state, int count)
+{
+    ShownTree shown(count);
+    for (auto _ : state) {
+        shown.tree.ExpandAll(shown.tree.GetRootItem());
+        ShownQml::settle();
+        state.PauseTiming();
+        shown.tree.CollapseAll(shown.tree.GetRootItem());
+        ShownQml::settle();
+        state.ResumeTiming();
+    }
+}
+
+void expandAllWithQt(benchmark::State& state, int count)
+{
+    ShownList shown(count);
+    for (auto _ : state) {
+        shown.show(&shown.rows);
+        state.PauseTiming();
+        shown.show(nullptr);
+        state.ResumeTiming();
+    }
+}
+
+void collapseAllWithOurs(benchmark::State& state, int count)
+{
+    ShownTree shown(count);
+    for (auto _ : state) {
+        state.PauseTiming();
+        shown.tree.ExpandAll(shown.tree.GetRootItem());
+        ShownQml::settle();
+        state.ResumeTiming();
+        shown.tree.CollapseAll(shown.tree.GetRootItem());
+        ShownQml::settle();
+    }
+}
+
+void collapseAllWithQt(benchmark::State& state, int count)
+{
+    ShownList shown(count);
+    for (auto _ : state) {
+        state.PauseTiming();
+        shown.show(&shown.rows);
+        state.ResumeTiming();
+        shown.show(nullptr);
+    }
+}
+
+// Every row renamed while the view shows them all.
+void setTextWithOurs(benchmark::State& state, int count)
+{
+    ShownTree shown(count);
+    shown.tree.ExpandAll(shown.tree.GetRootItem());
+    std::vector<qwxTreeItemId> nodes;
+    shown.tree.GetModel()->traverseTree([&nodes](const TreeCtrlModelBase::Item& item) {
+        nodes.emplace_back(const_cast<TreeCtrlModelBase::Item*>(&item));
+        return qut::TreeWalk::Continue;
+    });
+    const std::vector<wxString>& text = wxTexts(2 * count);
+    int round = 0;
+    for (auto _ : state) {
+        const std::size_t offset = std::size_t(count * (++round % 2));
+        for (std::size_t i = 0; i < nodes.size(); ++i)
+            shown.tree.SetItemText(nodes[i], text[offset + i]);
+        ShownQml::settle();
+    }
+}
+
+void setTextWithQt(benchmark::State& state, int count)
+{
+    ShownList shown(count);
+    shown.show(&shown.rows);
+    const std::vector<QString>& text = qtTexts(2 * count);
+    int round = 0;
+    for (auto _ : state) {
+        const int offset = count * (++round % 2);
+        for (int row = 0; row < count; ++row)
+            shown.rows.item(row)->setText(text[std::size_t(offset + row)]);
+        ShownQml::settle();
+    }
+}
+
 } // namespace
 
 void registerBenchmarks()
@@ -188,6 +342,11 @@ void registerBenchmarks()
             "buildBesideSortProxy/" + std::to_string(count), buildWithOurs,
             [](benchmark::State& state, int nodes) { buildWithQt(state, nodes, true); }, count);
         registerPair("walk/" + std::to_string(count), walkWithOurs, walkWithQt, count);
+    }
+    for (int count : {1000, 10000}) {
+        registerPair("expandAllShown/" + std::to_string(count), expandAllWithOurs, expandAllWithQt, count);
+        registerPair("collapseAllShown/" + std::to_string(count), collapseAllWithOurs, collapseAllWithQt, count);
+        registerPair("setTextShown/" + std::to_string(count), setTextWithOurs, setTextWithQt, count);
     }
 }
 
