@@ -25,6 +25,8 @@
 #include <dlgbridge/core/qmlchildlist.h>
 #include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/hosting/qwxpanel.h>
+#include <dlgbridge/views/qwxtreectrl.h>
+#include <dlgbridge/views/qwxtreeevent.h>
 
 #include <QAbstractItemModelTester>
 #include <QObject>
@@ -320,6 +322,60 @@ const Calls<qwxNotebook>& callsOf()
     return calls;
 }
 
+// A node of the tree, the root included; ids of nodes that are gone are no input a caller can have.
+qwxTreeItemId anyNode(qwxTreeCtrl& tree, Rng& rng)
+{
+    std::vector<qwxTreeItemId> nodes{tree.GetRootItem()};
+    tree.GetModel()->traverseTree([&nodes](const TreeCtrlModelBase::Item& item) {
+        nodes.emplace_back(const_cast<TreeCtrlModelBase::Item*>(&item));
+        return qut::TreeWalk::Continue;
+    });
+    return rng.percent(10) ? qwxTreeItemId() : rng.pick(nodes);
+}
+
+template<>
+const Calls<qwxTreeCtrl>& callsOf()
+{
+    using T = qwxTreeCtrl;
+    using C = CallContext;
+    static const Calls<qwxTreeCtrl> calls{
+        [](T& w, const C& c) { w.AppendItem(anyNode(w, c.rng), anyText(c.rng)); },
+        [](T& w, const C& c) {
+            w.AppendItem(anyNode(w, c.rng), anyText(c.rng), -1, -1, nullptr, {}, T::ExpandWhenShown);
+        },
+        [](T& w, const C& c) { w.InsertItem(anyNode(w, c.rng), c.rng.index(), anyText(c.rng)); },
+        [](T& w, const C& c) { w.Delete(anyNode(w, c.rng)); },
+        [](T& w, const C& c) { w.MoveItem(anyNode(w, c.rng), anyNode(w, c.rng)); },
+        [](T& w, const C& c) { w.SetItemText(anyNode(w, c.rng), anyText(c.rng)); },
+        [](T& w, const C& c) { w.SetItemBold(anyNode(w, c.rng), c.rng.percent(50)); },
+        [](T& w, const C& c) { w.SetEditOnCreation(anyNode(w, c.rng), true); },
+        [](T& w, const C& c) { w.Expand(anyNode(w, c.rng)); },
+        [](T& w, const C& c) { w.Collapse(anyNode(w, c.rng)); },
+        [](T& w, const C& c) { w.Toggle(anyNode(w, c.rng)); },
+        [](T& w, const C& c) { w.ExpandAll(anyNode(w, c.rng)); },
+        [](T& w, const C& c) { w.CollapseAll(anyNode(w, c.rng)); },
+        [](T& w, const C& c) { w.EditLabel(anyNode(w, c.rng)); },
+        [](T& w, const C& c) { w.SelectItem(anyNode(w, c.rng), c.rng.percent(50)); },
+        [](T& w, const C& c) { selectInTree(&w, anyText(c.rng) + "|" + anyText(c.rng)); },
+        [](T& w, const C&) {
+            std::vector<qwxTreeItemId> selected;
+            w.GetSelections(selected);
+            w.GetFocusedItem();
+        },
+        [](T& w, const C&) { w.clearSelections(); },
+        [](T& w, const C&) { w.setIsSorted(); },
+        [](T& w, const C&) { w.resyncToUI(); },
+        [](T& w, const C&) { w.DeleteAllItems(); },
+        [](T& w, const C& c) {
+            qwxTreeItemIdValue cookie;
+            for (qwxTreeItemId child = w.GetFirstChild(anyNode(w, c.rng), cookie); child.IsOk();
+                 child = w.GetNextChild(child, cookie))
+                w.GetItemParent(child);
+        },
+    };
+    return calls;
+}
+
 template<>
 const Calls<qwxChoice>& callsOf()
 {
@@ -455,10 +511,9 @@ struct KindList
     }
 };
 
-using WrapperKinds =
-    KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton, qwxStaticText,
-             qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxNotebook, qwxChoice, qwxComboBox, qwxPanel,
-             qwxMenu>;
+using WrapperKinds = KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton,
+                              qwxStaticText, qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxNotebook,
+                              qwxChoice, qwxComboBox, qwxPanel, qwxMenu, qwxTreeCtrl>;
 
 using Connection = void (*)(QmlChildList&, const OdString&, qwxWindow*, const CallContext&);
 
@@ -518,6 +573,27 @@ const std::vector<Connection>& connections()
         [](L& l, const OdString&, qwxWindow*, const CallContext& c) {
             l.connectToDlgResult(anyDialogId(c.rng), c.handler<E>());
         },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToTreeSelChangedEvent(n, c.handler<qwxTreeEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToLeftDoubleClick(n, c.handler<qwxTreeEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToTreeItemGetToolTip(n, c.handler<qwxTreeEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToEndLabelEdit(n, c.handler<qwxTreeEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToBeginLabelEdit(n, c.handler<qwxTreeEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToBeginDrag(n, c.handler<qwxDragDropEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToEndDrag(n, c.handler<qwxDragDropEvent>());
+        },
     };
     return table;
 }
@@ -528,6 +604,15 @@ template<typename... Arguments>
 void invoke(QObject& item, const char* method, Arguments... arguments)
 {
     QMetaObject::invokeMethod(&item, method, Qt::DirectConnection, arguments...);
+}
+
+// What a tree view's signal may carry: a row of its model, or nothing of the kind.
+QVariant anyNodeArgument(QObject& item, Rng& rng)
+{
+    const auto* model = item.property("model").value<QAbstractItemModel*>();
+    if (model && rng.percent(60))
+        return QVariant::fromValue(model->index(rng.index(), 0));
+    return rng.percent(50) ? QVariant(rng.index()) : QVariant();
 }
 
 } // namespace
@@ -576,6 +661,25 @@ void emitOnItem(QObject& item, Rng& rng)
             invoke(i, r.pick(methods));
         },
         [](QObject& i, Rng& r) { invoke(i, "insert", Q_ARG(int, r.index()), Q_ARG(QString, r.text())); },
+        // A tree view's signals with what is no index of its model, or an index of another.
+        [](QObject& i, Rng& r) {
+            static const std::vector<const char*> signals{"hoveredNode", "doubleClicked"};
+            invoke(i, r.pick(signals), Q_ARG(QVariant, anyNodeArgument(i, r)));
+        },
+        [](QObject& i, Rng& r) {
+            invoke(i, "currentChanged", Q_ARG(QVariant, anyNodeArgument(i, r)), Q_ARG(QVariant, anyNodeArgument(i, r)));
+        },
+        [](QObject& i, Rng& r) {
+            invoke(i, "endLabelEdit", Q_ARG(QVariant, anyNodeArgument(i, r)), Q_ARG(QString, r.text()));
+        },
+        [](QObject& i, Rng& r) {
+            const QVariant nodes = QVariantList{anyNodeArgument(i, r), anyNodeArgument(i, r)};
+            if (r.percent(50))
+                invoke(i, "beginDrag", Q_ARG(QVariant, nodes), Q_ARG(int, r.index()));
+            else
+                invoke(i, "endDrag", Q_ARG(QVariant, nodes), Q_ARG(QVariant, anyNodeArgument(i, r)),
+                       Q_ARG(int, r.index()), Q_ARG(QVariant, r.index()));
+        },
     };
     rng.pick(emits)(item, rng);
 }

@@ -47,6 +47,7 @@ const std::vector<Declaration>& kitDeclarations()
         {"ProgressBar", ""},
         {"WxConvMenu", ""},
         {"TabBar", "pages: [Item {}, Item {}, Item {}]"},
+        {"TreeViewAV", "height: 120"},
     };
     return declarations;
 }

@@ -37,8 +37,15 @@ QStringList ModelOnItemBase::declaredStrings() const
 
 void ModelOnItemBase::show(QObject* model)
 {
-    if (m_control.setQmlProperty("model", QVariant::fromValue(model)))
-        m_showing = m_control.findObjectIfAny();
+    QObject* item = m_control.findObjectIfAny();
+    if (m_control.setQmlProperty("model", QVariant::fromValue(model))) {
+        m_showing = item;
+        return;
+    }
+    // An item without the property refuses the write but keeps it as a dynamic
+    // property, where the model would outlive its wrapper as a dangling pointer.
+    if (item && item->property("model").value<QObject*>() == model)
+        item->setProperty("model", QVariant());
 }
 
 void ModelOnItemBase::takeBack(const QObject* model)
