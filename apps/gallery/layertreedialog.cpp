@@ -42,10 +42,10 @@ struct Layer
 };
 
 constexpr Layer layers[] = {
-    {"Architecture", "Walls", "white", 412, false},    {"Architecture", "Doors", "yellow", 58, false},
-    {"Architecture", "Windows", "cyan", 96, false},    {"Structure", "Columns", "red", 40, false},
-    {"Structure", "Beams", "magenta", 75, false},      {"Structure", "Grid", "grey", 22, true},
-    {"Services", "Plumbing", "blue", 131, false},      {"Services", "Electrical", "green", 204, false},
+    {"Architecture", "Walls", "white", 412, false}, {"Architecture", "Doors", "yellow", 58, false},
+    {"Architecture", "Windows", "cyan", 96, false}, {"Structure", "Columns", "red", 40, false},
+    {"Structure", "Beams", "magenta", 75, false},   {"Structure", "Grid", "grey", 22, true},
+    {"Services", "Plumbing", "blue", 131, false},   {"Services", "Electrical", "green", 204, false},
 };
 
 constexpr int displayRole = 256;
@@ -71,8 +71,7 @@ LayerTreeDialog::~LayerTreeDialog() = default;
 
 bool LayerTreeDialog::load(wxWindow* parent)
 {
-    return wut::doLoadDialog(this, parent, QUrl(QStringLiteral("qrc:/gallery/LayerTree.qml")), Resizable, {},
-                             nullptr);
+    return wut::doLoadDialog(this, parent, QUrl(QStringLiteral("qrc:/gallery/LayerTree.qml")), Resizable, {}, nullptr);
 }
 
 qwxTreeCtrl* LayerTreeDialog::tree() const
@@ -117,8 +116,7 @@ void LayerTreeDialog::fillTree()
     for (const Layer& layer : layers) {
         qwxTreeItemId& group = groups[QString::fromLatin1(layer.group)];
         if (!group.IsOk()) {
-            group = layerTree->AppendItem(root, layer.group, -1, -1, nullptr, wxString(),
-                                          qwxTreeCtrl::ExpandWhenShown);
+            group = layerTree->AppendItem(root, layer.group, -1, -1, nullptr, wxString(), qwxTreeCtrl::ExpandWhenShown);
             layerTree->SetItemBold(group, true);
         }
         const qwxTreeItemId row =

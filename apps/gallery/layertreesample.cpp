@@ -1,11 +1,9 @@
 #include "layertreesample.h"
 
+#include "dialogsample.h"
 #include "layertreedialog.h"
-#include "scriptplayer.h"
 
 #include <QTextStream>
-
-#include <wx/defs.h>
 
 namespace {
 
@@ -44,18 +42,8 @@ int LayerTreeSample::run(dbr::quickhost::QuickHost&, const SampleOptions& option
 {
     LayerTreeDialog dialog;
     dialog.load();
-    ScriptPlayer script([&dialog] { return dialog.root(); }, options.screenshotPath);
-    script.setSteps(layerSteps(script, dialog));
-    if (options.scripted)
-        script.start();
-    const int code = dbr::ShowModal(&dialog);
-
-    out << "Dialog code saw:\n";
-    for (const QString& line : qAsConst(dialog.seen))
-        out << "  " << line << '\n';
-    out << "Chosen layers: " << dialog.chosen.join(QStringLiteral(", ")) << '\n';
-    out << "ShowModal returned " << code << (code == wxID_OK ? " (wxID_OK)" : "") << '\n';
-    if (options.scripted && script.screenshotSaved())
-        out << "Screenshot: " << options.screenshotPath << '\n';
-    return options.scripted && (code != wxID_OK || !script.screenshotSaved()) ? 1 : 0;
+    const auto steps = [&dialog](ScriptPlayer& script) { return layerSteps(script, dialog); };
+    return runDialogSample(dialog, dialog.seen, steps, options, out, [&dialog](QTextStream& results) {
+        results << "Chosen layers: " << dialog.chosen.join(QStringLiteral(", ")) << '\n';
+    });
 }

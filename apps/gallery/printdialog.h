@@ -11,7 +11,7 @@
 namespace dbr {
 class qwxTimer;
 class qwxTimerEvent;
-}
+} // namespace dbr
 
 // Dialog code as the application writes it against the wx-shaped interface.
 class PrintDialog : public dbr::qwxDialog

@@ -1,11 +1,9 @@
 #include "printsample.h"
 
+#include "dialogsample.h"
 #include "printdialog.h"
-#include "scriptplayer.h"
 
 #include <QTextStream>
-
-#include <wx/defs.h>
 
 #include <qut/qtconversions.h>
 
@@ -46,20 +44,10 @@ int PrintSample::run(dbr::quickhost::QuickHost&, const SampleOptions& options, Q
 {
     PrintDialog dialog;
     dialog.load();
-    ScriptPlayer script([&dialog] { return dialog.root(); }, options.screenshotPath);
-    script.setSteps(printSteps(script, dialog));
-    if (options.scripted)
-        script.start();
-    const int code = dbr::ShowModal(&dialog);
-
-    out << "Dialog code saw:\n";
-    for (const QString& line : dialog.seen)
-        out << "  " << line << '\n';
-    out << "Title: " << qut::toQt(dialog.title) << ", plotter: " << qut::toQt(dialog.plotterPath())
-        << ", paper: " << qut::toQt(dialog.paper) << '\n';
-    out << "Copies: " << dialog.copies << ", layout checked: " << (dialog.checked ? "yes" : "no") << '\n';
-    out << "ShowModal returned " << code << (code == wxID_OK ? " (wxID_OK)" : "") << '\n';
-    if (options.scripted && script.screenshotSaved())
-        out << "Screenshot: " << options.screenshotPath << '\n';
-    return options.scripted && (code != wxID_OK || !script.screenshotSaved()) ? 1 : 0;
+    const auto steps = [&dialog](ScriptPlayer& script) { return printSteps(script, dialog); };
+    return runDialogSample(dialog, dialog.seen, steps, options, out, [&dialog](QTextStream& results) {
+        results << "Title: " << qut::toQt(dialog.title) << ", plotter: " << qut::toQt(dialog.plotterPath())
+                << ", paper: " << qut::toQt(dialog.paper) << '\n';
+        results << "Copies: " << dialog.copies << ", layout checked: " << (dialog.checked ? "yes" : "no") << '\n';
+    });
 }

@@ -470,17 +470,9 @@ void qwxTreeCtrl::ExpandAll(const qwxTreeItemId& item)
 
 void qwxTreeCtrl::CollapseAll(const qwxTreeItemId& item)
 {
-    if (!item.IsOk())
-        return;
-    std::vector<qwxTreeItemId> parents{item};
-    for (size_t next = 0; next < parents.size(); ++next) {
-        qwxTreeItemIdValue cookie;
-        for (qwxTreeItemId child = GetFirstChild(parents[next], cookie); child.IsOk();
-             child = GetNextChild(child, cookie)) {
-            if (HasChildren(child))
-                parents.push_back(child);
-        }
-    }
+    // Parents come before their children in the walk, so backwards children close first.
+    std::vector<qwxTreeItemId> parents;
+    traverseTree([&parents](const qwxTreeItemId& node) { parents.push_back(node); }, item);
     for (auto parent = parents.rbegin(); parent != parents.rend(); ++parent)
         Collapse(*parent);
 }
