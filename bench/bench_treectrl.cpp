@@ -248,6 +248,32 @@ struct ShownList
     QStandardItemModel rows;
 };
 
+// Rows built while the view shows the tree, sorted, then taken in by the view.
+void buildShownWithOurs(benchmark::State& state, int count)
+{
+    ShownQml qml("TreeViewAV { objectName: 'tree'; anchors.fill: parent }");
+    for (auto _ : state) {
+        qwxTreeCtrl tree("tree", qml.host());
+        tree.resyncToUI();
+        tree.setIsSorted();
+        buildOurs(tree, count);
+        ShownQml::settle();
+    }
+}
+
+void buildShownWithQt(benchmark::State& state, int count)
+{
+    ShownList shown(0);
+    for (auto _ : state) {
+        QStandardItemModel model;
+        shown.show(&model);
+        for (const QString& text : qtTexts(count))
+            model.appendRow(new QStandardItem(text));
+        ShownQml::settle();
+        shown.show(nullptr);
+    }
+}
+
 void expandAllWithOurs(benchmark::State& state, int count)
 {
     ShownTree shown(count);
@@ -344,6 +370,7 @@ void registerBenchmarks()
         registerPair("walk/" + std::to_string(count), walkWithOurs, walkWithQt, count);
     }
     for (int count : {1000, 10000}) {
+        registerPair("buildShown/" + std::to_string(count), buildShownWithOurs, buildShownWithQt, count);
         registerPair("expandAllShown/" + std::to_string(count), expandAllWithOurs, expandAllWithQt, count);
         registerPair("collapseAllShown/" + std::to_string(count), collapseAllWithOurs, collapseAllWithQt, count);
         registerPair("setTextShown/" + std::to_string(count), setTextWithOurs, setTextWithQt, count);
