@@ -163,9 +163,10 @@ void QuickDialog::connectRoot()
     QQuickItem* root = d->content.root();
     if (!root)
         return;
-    // Dialog code that hides the root (qwxWindow::Hide) means the dialog to leave the screen.
+    // Dialog code that hides the root (qwxWindow::Hide) means the dialog to leave
+    // the screen; a root leaving its window as it is destroyed means nothing.
     connect(root, &QQuickItem::visibleChanged, this, [this, root] {
-        if (!root->isVisible())
+        if (root->parentItem() && !root->isVisible())
             d->content.window().hide();
     });
     // Only a DialogAV root ends itself; other roots are ended by dialog code.
