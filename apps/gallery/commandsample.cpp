@@ -32,7 +32,10 @@ std::vector<ScriptPlayer::Step> commandSteps(ScriptPlayer& commandLine, ScriptPl
         [&panel] { panel.click("circle"); },
         [enter] { enter("140,90"); },
         [&panel] { panel.click("square"); },
-        [enter] { enter("260,150"); },
+        [enter] { enter("190,200"); },
+        [&panel] { panel.click("cross"); },
+        // A point picked in the drawing.
+        [&commandLine] { commandLine.click("drawingArea"); },
         [&panel] { panel.click("cross"); },
         [&commandLine, &host] { commandLine.saveScreenshot({contextDialogRoot(host)}); },
         [enter] { enter("380,110"); },
@@ -40,7 +43,7 @@ std::vector<ScriptPlayer::Step> commandSteps(ScriptPlayer& commandLine, ScriptPl
         [enter] { enter("MARK"); },
         [&panel] { panel.click("circle"); },
         [enter] { enter("nowhere"); },
-        [enter] { enter("200,220"); },
+        [enter] { enter("420,200"); },
         [&panel] { panel.click("done"); },
         [&loop] { loop.quit(); },
     };
@@ -84,5 +87,5 @@ int CommandSample::run(dbr::quickhost::QuickHost& host, const SampleOptions& opt
     if (options.scripted && commandLine.screenshotSaved())
         out << "Screenshot: " << options.screenshotPath << '\n';
     const bool ended = !host.commandLine().isRunning() && host.guiController().attachedDialogs().empty();
-    return options.scripted && (!ended || drawing.marks().size() != 4 || !commandLine.screenshotSaved()) ? 1 : 0;
+    return options.scripted && (!ended || drawing.marks().size() != 5 || !commandLine.screenshotSaved()) ? 1 : 0;
 }

@@ -118,8 +118,13 @@ void QuickCommandLine::onChar(wchar_t character)
 
 void QuickCommandLine::onCommand(const OdString& word, EInputType, int)
 {
-    // A word replaces what was half typed, as a click on an option does.
-    submit(qut::toQt(word));
+    enter(qut::toQt(word));
+}
+
+void QuickCommandLine::enter(const QString& text)
+{
+    // It replaces what was half typed, as a click on an option does.
+    submit(text);
 }
 
 void QuickCommandLine::keyPressed(int key, const QString& text)

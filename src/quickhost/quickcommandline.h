@@ -63,6 +63,8 @@ public:
 
     // A key from the QML field: Enter, Escape and Backspace as such, others by their text.
     Q_INVOKABLE void keyPressed(int key, const QString& text);
+    // Text entered at once, as a point picked in a drawing is.
+    Q_INVOKABLE void enter(const QString& text);
 
 Q_SIGNALS:
     void promptChanged();

@@ -23,6 +23,12 @@ Rectangle {
             color: "#20242a"
             clip: true
 
+            // A click picks a point, as if its coordinates were typed.
+            MouseArea {
+                anchors.fill: parent
+                onClicked: commandLine.enter(Math.round(mouse.x) + "," + Math.round(mouse.y))
+            }
+
             // One line every 20 units of the drawing.
             Repeater {
                 model: Math.ceil(parent.width / 20)
