@@ -17,8 +17,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <malloc.h>
-
 #include <memory>
 #include <string>
 #include <vector>
@@ -86,12 +84,6 @@ void buildQt(QStandardItemModel& model, int count)
         (parent < 0 ? *model.invisibleRootItem() : *made[std::size_t(parent)]).appendRow(item);
         made.push_back(item);
     }
-}
-
-std::size_t heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
 }
 
 template<typename Build>

@@ -8,8 +8,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <malloc.h>
-
 #include <memory>
 #include <string>
 #include <utility>
@@ -91,12 +89,6 @@ void buildQt(QStandardItem& top, int count, ParentOf parentOf)
         (parent < 0 ? top : *made[std::size_t(parent)]).appendRow(item);
         made.push_back(item);
     }
-}
-
-std::size_t heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
 }
 
 // Heap bytes a whole model of count nodes holds, per node.

@@ -5,6 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <malloc.h>
+
 #include <iomanip>
 #include <map>
 #include <string>
@@ -57,6 +59,12 @@ private:
 void discardMessages(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 } // namespace
+
+std::size_t dbr::bench::heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
 
 int main(int argc, char** argv)
 {

@@ -2,12 +2,16 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstddef>
 #include <string>
 
 namespace dbr::bench {
 
 // Registers the program's benchmarks; each pair is named ".../ours" and ".../qt".
 void registerBenchmarks();
+
+// Bytes of the heap in use now; the difference around a build is what it holds.
+std::size_t heapInUse();
 
 // Registers ours and its plain-Qt baseline under one name, timed in microseconds.
 template<typename Ours, typename Baseline, typename... Args>
