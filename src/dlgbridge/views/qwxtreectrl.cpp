@@ -431,7 +431,8 @@ void qwxTreeCtrl::invokeOnItem(const char* method, const qwxTreeItemId& item, QG
     QObject* object = findObject();
     if (!object)
         return;
-    const QVariant index = QVariant::fromValue(qmlIndex(item));
+    // The item found here holds the view's model: no second search for it.
+    const QVariant index = QVariant::fromValue(qmlIndex(item, object->property("model").value<QObject*>()));
     QMetaObject::invokeMethod(object, method, Qt::DirectConnection, result, Q_ARG(QVariant, index), extra);
 }
 
@@ -500,7 +501,7 @@ void qwxTreeCtrl::SelectItem(const qwxTreeItemId& item, bool expandParents)
         const QObject* view = getQmlProperty("view").value<QObject*>();
         const bool multiple = view && view->property("selectionMode").toInt() != 0;
         QMetaObject::invokeMethod(model, multiple ? "ctrlSelection" : "leftClickSelection", Qt::DirectConnection,
-                                  Q_ARG(QModelIndex, qmlIndex(item)));
+                                  Q_ARG(QModelIndex, qmlIndex(item, model)));
     }
     if (!expandParents)
         return;
@@ -581,10 +582,10 @@ qwxTreeItemId qwxTreeCtrl::getWxIndexFromSortfilterIndex(const QModelIndex& qmlI
     return getWxIndex(proxyIndex);
 }
 
-QModelIndex qwxTreeCtrl::qmlIndex(const qwxTreeItemId& item) const
+QModelIndex qwxTreeCtrl::qmlIndex(const qwxTreeItemId& item, QObject* model) const
 {
     QModelIndex index;
-    if (QObject* model = qmlModel())
+    if (model)
         QMetaObject::invokeMethod(model, "mapFromSource", Qt::DirectConnection, Q_RETURN_ARG(QModelIndex, index),
                                   Q_ARG(QModelIndex, wxToQt(item)));
     return index;

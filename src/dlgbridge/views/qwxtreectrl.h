@@ -134,7 +134,8 @@ protected:
 private:
     QModelIndex wxToQt(const qwxTreeItemId& item, const TreeCtrlModelBase& model) const;
     QModelIndex wxToQt(const qwxTreeItemId& item, const QAbstractProxyModel& proxy, TreeCtrlModelBase& model) const;
-    QModelIndex qmlIndex(const qwxTreeItemId& item) const;
+    // The row's index in the view's model; invalid without one.
+    QModelIndex qmlIndex(const qwxTreeItemId& item, QObject* qmlModel) const;
     QObject* qmlModel() const;
     void setQmlSourceModel(QObject* proxy);
     // Calls a QML method of the item with the row's QML index, then extra if given.

@@ -19,8 +19,6 @@ public:
     bool isEmpty() const { return m_text.empty(); }
     // As in the SDK, an index past the end is the caller's fault.
     OdChar getAt(int index) const { return m_text[static_cast<size_t>(index)]; }
-    // Replaces every oldChar and returns how many there were.
-    int replace(OdChar oldChar, OdChar newChar);
 
     OdString& operator+=(const OdString& other)
     {
