@@ -15,6 +15,8 @@ namespace dbr {
 
 class QmlChildListPrivate;
 class qwxDragDropEvent;
+class qwxGridEvent;
+class qwxListEvent;
 class qwxTreeEvent;
 
 // The wrappers of every named item under one QML root, keyed by object name,
@@ -56,7 +58,8 @@ public:
     QObject& addQmlCallback(std::unique_ptr<QObject> callback);
     // Connects signal of item to slot of callback and keeps the callback, only
     // when Qt made the connection; a refusal is logged.
-    bool connectCallback(QObject& item, const char* signal, std::unique_ptr<QObject> callback, const char* slot);
+    bool connectCallback(QObject& item, const char* signal, std::unique_ptr<QObject> callback, const char* slot,
+                         Qt::ConnectionType type = Qt::AutoConnection);
 
     void TransferDataToWindow();
     void TransferDataFromWindow();
@@ -106,6 +109,20 @@ public:
     void connectToBeginDrag(const OdString& name, EventHandler<qwxDragDropEvent> handler);
     void connectToEndDrag(const OdString& name, EventHandler<qwxDragDropEvent> handler);
 
+    // List and table connections (defined with the list control).
+    // The event carries the text of the list's selection, not its row.
+    void connectToListBoxSelectedEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    // The event carries the row whose mark changed; the mark is in the list already.
+    void connectToCheckListboxEvent(const OdString& name, EventHandler<qwxCommandEvent> handler);
+    void connectToListItemSelectedEvent(const OdString& name, EventHandler<qwxListEvent> handler);
+    void connectToListSelectionEvent(const OdString& name, EventHandler<qwxListEvent> handler);
+    // These two run their handler from the event loop, after the item's own signal handler returned.
+    void connectToListDoubleClickedEvent(const OdString& name, EventHandler<qwxListEvent> handler);
+    void connectToRightClick(const OdString& name, EventHandler<qwxListEvent> handler);
+    void connectToTableSelectionEvent(const OdString& name, EventHandler<qwxGridEvent> handler);
+    // The event carries the cell's new text.
+    void connectToTableTextAcceptedEvent(const OdString& name, EventHandler<qwxGridEvent> handler);
+
 private:
     Q_DISABLE_COPY(QmlChildList)
 
@@ -114,16 +131,19 @@ private:
     // Connects signal of the item called name (or of every wrapper of one of the
     // types, for "wxID_ANY") to slot of a callback made for its wrapper.
     void connectToSignal(const char* signal, const OdString& name, const CallbackFactory& makeCallback,
-                         const QStringList& types, const char* slot);
+                         const QStringList& types, const char* slot, Qt::ConnectionType type = Qt::AutoConnection);
     void connectOne(QObject& top, const char* signal, const QString& name, const CallbackFactory& makeCallback,
-                    const char* slot);
+                    const char* slot, Qt::ConnectionType type);
     void connectEvery(const char* signal, const CallbackFactory& makeCallback, const QStringList& types,
-                      const char* slot);
+                      const char* slot, Qt::ConnectionType type);
     // A connection whose callback raises a command event.
     void connectCommand(const char* signal, const char* slot, const OdString& name,
                         EventHandler<qwxCommandEvent> handler, const QStringList& types,
                         std::function<qwxCommandEvent(qwxWindow*)> eventBuilder = {});
 
+    template<typename Callback, typename Event>
+    void connectList(const char* signal, const char* slot, const OdString& name, EventHandler<Event> handler,
+                     Qt::ConnectionType type = Qt::AutoConnection);
     template<typename Callback, typename Event>
     void connectTree(const char* signal, const char* slot, const OdString& name, EventHandler<Event> handler);
 

@@ -69,7 +69,7 @@ std::function<std::unique_ptr<QObject>(qwxWindow*)> plainCallback(EventHandler<E
 } // namespace
 
 void QmlChildList::connectToSignal(const char* signal, const OdString& name, const CallbackFactory& makeCallback,
-                                   const QStringList& types, const char* slot)
+                                   const QStringList& types, const char* slot, Qt::ConnectionType type)
 {
     const QString objectName = qut::toQt(name);
     if (objectName.isEmpty())
@@ -80,13 +80,13 @@ void QmlChildList::connectToSignal(const char* signal, const OdString& name, con
         return;
     }
     if (objectName == wxIdAny)
-        connectEvery(signal, makeCallback, types, slot);
+        connectEvery(signal, makeCallback, types, slot, type);
     else
-        connectOne(*top, signal, objectName, makeCallback, slot);
+        connectOne(*top, signal, objectName, makeCallback, slot, type);
 }
 
 void QmlChildList::connectOne(QObject& top, const char* signal, const QString& name,
-                              const CallbackFactory& makeCallback, const char* slot)
+                              const CallbackFactory& makeCallback, const char* slot, Qt::ConnectionType type)
 {
     qwxWindow* window = d->findWindow(name);
     if (!window) {
@@ -98,11 +98,11 @@ void QmlChildList::connectOne(QObject& top, const char* signal, const QString& n
         qWarning().noquote() << QStringLiteral("(%1) Did not find qml component").arg(name);
         return;
     }
-    connectCallback(*item, signal, makeCallback(window), slot);
+    connectCallback(*item, signal, makeCallback(window), slot, type);
 }
 
 void QmlChildList::connectEvery(const char* signal, const CallbackFactory& makeCallback, const QStringList& types,
-                                const char* slot)
+                                const char* slot, Qt::ConnectionType type)
 {
     // One walk per root for all the wrappers of the types, each item being the one its own search would find.
     std::vector<std::pair<qwxWindow*, QObject*>> sources;
@@ -128,7 +128,7 @@ void QmlChildList::connectEvery(const char* signal, const CallbackFactory& makeC
             qWarning() << "Did not find object" << name;
             continue;
         }
-        if (!connectCallback(*item, signal, makeCallback(window), slot))
+        if (!connectCallback(*item, signal, makeCallback(window), slot, type))
             continue;
         qCDebug(lcInitSignals).noquote() << QStringLiteral("Connect %1 (%2) to %3")
                                                 .arg(QLatin1String(signal), window->typeName(), item->objectName());
@@ -141,10 +141,10 @@ void QmlChildList::connectEvery(const char* signal, const CallbackFactory& makeC
 }
 
 bool QmlChildList::connectCallback(QObject& item, const char* signal, std::unique_ptr<QObject> callback,
-                                   const char* slot)
+                                   const char* slot, Qt::ConnectionType type)
 {
     // A callback whose connection Qt refused could never fire, so it is not kept.
-    QMetaObject::Connection connection = QObject::connect(&item, signal, callback.get(), slot);
+    QMetaObject::Connection connection = QObject::connect(&item, signal, callback.get(), slot, type);
     if (!connection) {
         qCWarning(lcInitSignals).noquote() << QStringLiteral("(%1) Unable to connect %2 to %3")
                                                   .arg(item.objectName(), QLatin1String(signal), QLatin1String(slot));

@@ -16,6 +16,9 @@
 #include <dlgbridge/controls/qwxtogglebutton.h>
 #include <dlgbridge/core/wrapperkinds.h>
 #include <dlgbridge/hosting/qwxpanel.h>
+#include <dlgbridge/views/qsortinglistctrl.h>
+#include <dlgbridge/views/qwxchecklistbox.h>
+#include <dlgbridge/views/qwxlistctrl.h>
 #include <dlgbridge/views/qwxtreectrl.h>
 
 #include <QHash>
@@ -37,6 +40,23 @@ std::unique_ptr<qwxWindow> makeCombo(const QObject& item, const OdString& name, 
     if (item.property("editable").toBool())
         return std::make_unique<qwxComboBox>(name, host);
     return std::make_unique<qwxChoice>(name, host);
+}
+
+// A list with check boxes is a check list even when it sorts.
+std::unique_ptr<qwxWindow> makeList(const QObject& item, const OdString& name, qwxWindow& host)
+{
+    if (item.property("checkableItems").toBool())
+        return std::make_unique<qwxCheckListBox>(name, host);
+    if (item.property("sortingEnabled").toBool())
+        return std::make_unique<qSortingListCtrl>(name, host);
+    return std::make_unique<qwxListCtrl>(name, host);
+}
+
+std::unique_ptr<qwxWindow> makeTableView(const QObject& item, const OdString& name, qwxWindow& host)
+{
+    if (!item.property("checkableColumns").toList().isEmpty())
+        return std::make_unique<qwxCheckListBox>(name, host);
+    return std::make_unique<qwxListCtrl>(name, host);
 }
 
 QHash<QString, StandardWrapperFactory> makeTable()
@@ -61,6 +81,9 @@ QHash<QString, StandardWrapperFactory> makeTable()
         {QStringLiteral("ImageButton"), &make<qwxBitmapButton>},
         {QStringLiteral("TabBar"), &make<qwxNotebook>},
         {QStringLiteral("TreeViewAV"), &make<qwxTreeCtrl>},
+        {QStringLiteral("SingleSelListView"), &makeList},
+        {QStringLiteral("WxConvTableView"), &makeTableView},
+        {QStringLiteral("QQuickTableView"), &make<qwxListCtrl>},
         {QStringLiteral("Panel"), &make<qwxPanel>},
         {QStringLiteral("Pane"), &make<qwxPanel>},
         {QStringLiteral("ComboBox"), &makeCombo},

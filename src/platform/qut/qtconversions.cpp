@@ -52,6 +52,13 @@ QColor toQt(const wxColour& colour)
     return QColor(colour.Red(), colour.Green(), colour.Blue(), colour.Alpha());
 }
 
+wxColour wxFromQt(const QColor& colour)
+{
+    if (!colour.isValid())
+        return wxColour();
+    return wxColour(colour.red(), colour.green(), colour.blue(), colour.alpha());
+}
+
 wxString wxFromQt(const QString& text)
 {
     return wxString(text.toStdWString());

@@ -19,6 +19,8 @@ QString toQt(const wxString& text);
 QColor toQt(const wxColour& colour);
 
 wxString wxFromQt(const QString& text);
+// An invalid QColor gives an invalid wxColour.
+wxColour wxFromQt(const QColor& colour);
 wxString wxFromOd(const OdString& text);
 OdString odFromQt(const QString& text);
 OdString odFromWx(const wxString& text);
