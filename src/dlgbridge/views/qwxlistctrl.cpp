@@ -107,7 +107,7 @@ public:
         switch (role) {
         case DisplayRole:
         case TextRole: return cell->text;
-        case ColumnIdRole: return m_columns.columns[std::size_t(index.column())].id;
+        case ColumnIdRole: return columnId(index.column());
         case ImageRole: return imageOf(*cell);
         case ImageIndexRole: return cell->imageIndex;
         case IconRole: return cell->icon;
@@ -310,6 +310,12 @@ public:
 private:
     bool hasRow(int row) const { return row >= 0 && row < rowCount(); }
 
+    // Views ask every role of every cell, so the column shown before any is declared answers nothing.
+    QVariant columnId(int column) const
+    {
+        return column < declaredColumns() ? QVariant(m_columns.columns[std::size_t(column)].id) : QVariant();
+    }
+
     void reportRow(int row, int role) { Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1), {role}); }
 
     QVariant imageOf(const CellData& cell) const
@@ -326,9 +332,9 @@ private:
             std::vector<CellData>& cells = m_rows[std::size_t(i)].cells;
             for (int j = 0; j < int(cells.size()); ++j) {
                 std::unique_ptr<qwxClientData> released = std::move(cells[std::size_t(j)].clientObject);
-                if (!released)
-                    continue;
-                Q_EMIT dataChanged(index(i, j), index(i, j), {});
+                // A row made before the first column was declared holds a cell no view shows.
+                if (released && j < columnCount())
+                    Q_EMIT dataChanged(index(i, j), index(i, j), {});
             }
         }
     }

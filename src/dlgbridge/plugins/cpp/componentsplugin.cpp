@@ -1,5 +1,6 @@
 // The C++ part of the Arvela.Components module.
 #include "imagecanvas.h"
+#include "rowfiltermodel.h"
 #include "sortfilterselectmodel.h"
 
 #include <QQmlExtensionPlugin>
@@ -16,6 +17,7 @@ public:
     void registerTypes(const char* uri) override
     {
         qmlRegisterType<ImageCanvas>(uri, 1, 0, "ImageCanvas");
+        qmlRegisterType<RowFilterModel>(uri, 1, 0, "RowFilterModel");
         qmlRegisterType<SortFilterSelectModel>(uri, 1, 0, "SortFilterSelectModel");
     }
 };
