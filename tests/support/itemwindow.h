@@ -13,6 +13,8 @@ public:
     explicit ItemWindow(QObject* root);
     ~ItemWindow();
 
+    QQuickWindow* window() { return &m_window; }
+
 private:
     QQuickWindow m_window;
     QQuickItem* m_root;

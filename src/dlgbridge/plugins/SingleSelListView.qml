@@ -58,8 +58,8 @@ FocusScope {
         onCurrentRowChanged: list.currentIndex = currentRow
     }
 
-    onSortingEnabledChanged: rows.sort(sortingEnabled ? 0 : -1)
-    Component.onCompleted: if (sortingEnabled) rows.sort(0)
+    onSortingEnabledChanged: rows.sortBy(sortingEnabled ? 0 : -1)
+    Component.onCompleted: if (sortingEnabled) rows.sortBy(0)
 
     Rectangle {
         anchors.fill: parent

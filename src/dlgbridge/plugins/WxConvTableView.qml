@@ -131,7 +131,7 @@ FocusScope {
                     header.sortOrder = header.sortColumn === column && header.sortOrder === Qt.AscendingOrder
                             ? Qt.DescendingOrder : Qt.AscendingOrder
                     header.sortColumn = column
-                    rows.sort(column, header.sortOrder)
+                    rows.sortBy(column, header.sortOrder)
                 }
             }
         }

@@ -132,6 +132,11 @@ int RowFilterModel::currentRow() const
     return sourceModel() ? proxyRow(d->current.row()) : d->plainCurrent;
 }
 
+void RowFilterModel::sortBy(int column, Qt::SortOrder order)
+{
+    sort(column, order);
+}
+
 int RowFilterModel::sourceRow(int row) const
 {
     if (!sourceModel())

@@ -33,6 +33,8 @@ public:
     void setCurrentSourceRow(int row);
     int currentRow() const;
 
+    // A negative column shows the source's order again.
+    Q_INVOKABLE void sortBy(int column, Qt::SortOrder order = Qt::AscendingOrder);
     Q_INVOKABLE int sourceRow(int row) const;
     Q_INVOKABLE int proxyRow(int sourceRow) const;
     // The source's data of a source row; for what a view needs beyond the roles of its delegates.
