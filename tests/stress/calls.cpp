@@ -25,6 +25,7 @@
 #include <dlgbridge/core/qmlchildlist.h>
 #include <dlgbridge/core/qwxclientdata.h>
 #include <dlgbridge/hosting/qwxpanel.h>
+#include <dlgbridge/views/qwxlistctrl.h>
 #include <dlgbridge/views/qwxtreectrl.h>
 #include <dlgbridge/views/qwxtreeevent.h>
 
@@ -377,6 +378,35 @@ const Calls<qwxTreeCtrl>& callsOf()
 }
 
 template<>
+const Calls<qwxListCtrl>& callsOf()
+{
+    using T = qwxListCtrl;
+    using C = CallContext;
+    static const Calls<qwxListCtrl> calls{
+        [](T& w, const C& c) { w.InsertItem(c.rng.index(), anyText(c.rng)); },
+        [](T& w, const C& c) { w.Append(anyText(c.rng), new qwxStringClientData(anyText(c.rng))); },
+        [](T& w, const C& c) { w.SetItem(c.rng.index(), c.rng.index(), anyText(c.rng)); },
+        [](T& w, const C& c) { w.SetItemData(c.rng.index(), c.rng.index(), std::make_unique<qwxClientData>()); },
+        [](T& w, const C& c) { w.ExtractItemData(c.rng.index(), c.rng.index()); },
+        [](T& w, const C& c) { w.InsertColumn(c.rng.index(), anyText(c.rng)); },
+        [](T& w, const C& c) { w.DeleteItem(c.rng.index()); },
+        [](T& w, const C& c) { w.moveRow(c.rng.index(), c.rng.index()); },
+        [](T& w, const C& c) { w.Check(c.rng.index(), c.rng.percent(50)); },
+        [](T& w, const C& c) { w.setEnabled(c.rng.index(), c.rng.percent(50)); },
+        [](T& w, const C& c) { w.SetSelection(c.rng.index()); },
+        [](T& w, const C& c) { w.SetItemState(c.rng.index(), 4, 4); },
+        [](T& w, const C&) { w.GetNextItem(-1); },
+        [](T& w, const C&) { w.GetSelections(); },
+        [](T& w, const C& c) { w.EnsureVisible(c.rng.index()); },
+        [](T& w, const C& c) { w.setSearchString(anyText(c.rng)); },
+        [](T& w, const C&) { w.Clear(); },
+        [](T& w, const C&) { w.DeleteAllItems(); },
+        [](T& w, const C& c) { w.GetClientObject(c.rng.index(), c.rng.index()); },
+    };
+    return calls;
+}
+
+template<>
 const Calls<qwxChoice>& callsOf()
 {
     static const Calls<qwxChoice> calls{
@@ -513,7 +543,7 @@ struct KindList
 
 using WrapperKinds = KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton,
                               qwxStaticText, qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxNotebook,
-                              qwxChoice, qwxComboBox, qwxPanel, qwxMenu, qwxTreeCtrl>;
+                              qwxChoice, qwxComboBox, qwxPanel, qwxMenu, qwxTreeCtrl, qwxListCtrl>;
 
 using Connection = void (*)(QmlChildList&, const OdString&, qwxWindow*, const CallContext&);
 
@@ -593,6 +623,18 @@ const std::vector<Connection>& connections()
         },
         [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
             l.connectToEndDrag(n, c.handler<qwxDragDropEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToListItemSelectedEvent(n, c.handler<qwxListEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToRightClick(n, c.handler<qwxListEvent>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToListBoxSelectedEvent(n, c.handler<E>());
+        },
+        [](L& l, const OdString& n, qwxWindow*, const CallContext& c) {
+            l.connectToTableTextAcceptedEvent(n, c.handler<qwxGridEvent>());
         },
     };
     return table;

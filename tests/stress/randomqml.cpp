@@ -48,6 +48,9 @@ const std::vector<Declaration>& kitDeclarations()
         {"WxConvMenu", ""},
         {"TabBar", "pages: [Item {}, Item {}, Item {}]"},
         {"TreeViewAV", "height: 120"},
+        {"SingleSelListView", "model: [\"p\", \"q\"]"},
+        {"SingleSelListView", "checkableItems: true"},
+        {"WxConvTableView", ""},
     };
     return declarations;
 }

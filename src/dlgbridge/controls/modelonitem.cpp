@@ -2,6 +2,7 @@
 
 #include <dlgbridge/core/qwxwindow.h>
 
+#include <QJSValue>
 #include <QObject>
 #include <QStringList>
 
@@ -23,15 +24,20 @@ ModelOnItemBase::ModelOnItemBase(qwxWindow& control)
     QObject* item = control.findObjectIfAny();
     if (!item)
         return;
+    // Kept in a list: an item that declares no entries has an invalid "model", and
+    // setting an invalid value would remove the property instead of keeping it.
     const QVariant kept = item->property(declaredModelProperty);
     if (kept.isValid())
-        m_declared = kept;
+        m_declared = kept.toList().value(0);
     else
-        item->setProperty(declaredModelProperty, m_declared);
+        item->setProperty(declaredModelProperty, QVariantList{m_declared});
 }
 
 QStringList ModelOnItemBase::declaredStrings() const
 {
+    // A "var" property may hand its array over as a JavaScript value.
+    if (m_declared.userType() == qMetaTypeId<QJSValue>())
+        return m_declared.value<QJSValue>().toVariant().toStringList();
     return m_declared.toStringList();
 }
 
