@@ -1,6 +1,7 @@
 #include "samples.h"
 
 #include "commandsample.h"
+#include "drawinglistsample.h"
 #include "layertreesample.h"
 #include "printsample.h"
 
@@ -11,6 +12,8 @@ const std::vector<SampleEntry>& gallerySamples()
          [] { return std::make_unique<PrintSample>(); }},
         {"tree", "a layer tree: sorting, a filter, tool tips, renaming in place, drag and drop, a multiple selection",
          [] { return std::make_unique<LayerTreeSample>(); }},
+        {"list", "a report list of drawings: columns, search, sorting, editing a cell, a check list of options",
+         [] { return std::make_unique<DrawingListSample>(); }},
         {"command", "a drawing command with its options in a command context dialog beside the command line",
          [] { return std::make_unique<CommandSample>(); }},
     };

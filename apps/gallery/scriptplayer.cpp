@@ -177,10 +177,11 @@ QQuickItem* ScriptPlayer::rowShowing(const char* view, const QString& text) cons
     QQuickItem* owner = item(view);
     if (!owner)
         return nullptr;
-    // Rows are the delegates under the list's content item; a row shows its text in a label.
+    // Rows (a table's cells and header sections) are the delegates under a view's content item;
+    // a row shows its text in a label.
     const auto lists = owner->findChildren<QQuickItem*>();
     for (QQuickItem* list : lists) {
-        if (!list->inherits("QQuickListView"))
+        if (!list->inherits("QQuickListView") && !list->inherits("QQuickTableView"))
             continue;
         QMetaObject::invokeMethod(list, "forceLayout");
         for (QQuickItem* row : list->property("contentItem").value<QQuickItem*>()->childItems()) {

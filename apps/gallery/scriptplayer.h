@@ -50,7 +50,7 @@ public:
     // Types into whatever has the focus now, such as an editor a view opened.
     void type(const QString& text);
     void pressKey(Qt::Key key);
-    // The row of a list or tree view that shows text.
+    // The row of a list or tree view, or the cell of a table, that shows text.
     QQuickItem* rowShowing(const char* view, const QString& text) const;
     // Rests the pointer on the item.
     void hoverItem(QQuickItem* item, const char* name);

@@ -159,6 +159,12 @@ FocusScope {
             readonly property bool editable: root.editableColumns.indexOf(column) >= 0
             readonly property bool rowEnabled: model.enabled !== false
             property bool editing: false
+            // A pooled cell keeps its last row's text; hidden, nothing finds or clicks it.
+            property bool pooled: false
+
+            TableView.onPooled: pooled = true
+            TableView.onReused: pooled = false
+            visible: !pooled
 
             function sourceRow() {
                 return rows.sourceRow(row)
