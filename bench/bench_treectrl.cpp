@@ -5,13 +5,11 @@
 // rows), collapsing everything (against taking them away), and renaming every
 // row while the view shows them.
 #include "support/benchmain.h"
+#include "support/shownqml.h"
 
 #include <dlgbridge/views/qwxtreectrl.h>
 
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQuickItem>
-#include <QQuickWindow>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 
@@ -46,20 +44,6 @@ const std::vector<QString>& qtTexts(int count)
         made.push_back(QStringLiteral("node %1").arg(made.size()));
     return made;
 }
-
-// A host for controls that are made directly, over a QML root or none.
-class Host : public qwxWindow
-{
-public:
-    explicit Host(QObject* root = nullptr)
-        : m_root(root)
-    {}
-    QString typeName() const override { return QStringLiteral("Host"); }
-    QObject* root() const override { return m_root; }
-
-private:
-    QObject* m_root;
-};
 
 void buildOurs(qwxTreeCtrl& tree, int count)
 {
@@ -169,38 +153,6 @@ void walkWithQt(benchmark::State& state, int count)
     for (auto _ : state)
         benchmark::DoNotOptimize(walkQt(proxy, QModelIndex()));
 }
-
-// A window showing one QML item, with a host over it for a control made directly.
-class ShownQml
-{
-public:
-    explicit ShownQml(const QByteArray& item)
-    {
-        m_engine.addImportPath(QStringLiteral(DLGBRIDGE_QML_IMPORT_DIR));
-        QQmlComponent component(&m_engine);
-        component.setData("import QtQuick 2.15\nimport Arvela.Components 1.0\nItem { width: 400; height: 600\n" + item +
-                              "\n}",
-                          QUrl());
-        m_root.reset(qobject_cast<QQuickItem*>(component.create()));
-        m_root->setParentItem(m_window.contentItem());
-        m_window.resize(400, 600);
-        m_window.show();
-        m_host = std::make_unique<Host>(m_root.get());
-        settle();
-    }
-    ~ShownQml() { m_root->setParentItem(nullptr); }
-
-    QObject* item(const char* name) const { return m_root->findChild<QObject*>(QLatin1String(name)); }
-    qwxWindow& host() { return *m_host; }
-    // What the view does with a change happens in the turn of the event loop after it.
-    static void settle() { QCoreApplication::processEvents(); }
-
-private:
-    QQmlEngine m_engine;
-    QQuickWindow m_window;
-    std::unique_ptr<QQuickItem> m_root;
-    std::unique_ptr<Host> m_host;
-};
 
 // Our tree in the kit's tree view, all rows built and the control linked to the view.
 struct ShownTree
