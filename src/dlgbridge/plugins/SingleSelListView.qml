@@ -49,7 +49,7 @@ FocusScope {
         sourceModel: root.sortFilterModel ? root.sortFilterModel
                                           : (root.model && root.model.rowCount !== undefined ? root.model : null)
         filterRole: root.filterRole
-        filterRegularExpression: root.filterRegexp
+        filterPattern: root.filterRegexp
         sortRole: 256
         onCurrentSourceRowChanged: {
             root.currentChanged(currentSourceRow)

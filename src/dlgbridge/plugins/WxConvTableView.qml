@@ -76,7 +76,7 @@ FocusScope {
         id: rows
         sourceModel: root.sortFilterModel ? root.sortFilterModel : root.model
         filterRole: root.filterRole
-        filterRegularExpression: root.filterRegexp
+        filterPattern: root.filterRegexp
         sortRole: 256
         onCurrentSourceRowChanged: if (currentSourceRow >= 0) root.currentChanged(currentSourceRow)
     }

@@ -37,6 +37,14 @@ enum ListRole {
     EnabledRole,
 };
 
+// The theme's window text colour, asked once: every cell starts with it.
+const QColor& defaultTextColour()
+{
+    static const QColor colour = qut::toQt(wut::guiColor(wut::eGuiWindowText));
+    return colour;
+}
+
+// Fields ordered by size: a list holds a cell per column of every row.
 struct CellData
 {
     CellData() = default;
@@ -45,12 +53,12 @@ struct CellData
         , clientObject(std::move(client))
     {}
 
-    bool checked = false;
     QString text;
-    QColor textColour = qut::toQt(wut::guiColor(wut::eGuiWindowText));
-    std::unique_ptr<qwxClientData> clientObject;
-    int imageIndex = -1;
     QString icon;
+    std::unique_ptr<qwxClientData> clientObject;
+    QColor textColour = defaultTextColour();
+    int imageIndex = -1;
+    bool checked = false;
 };
 
 struct RowData
@@ -383,6 +391,23 @@ QModelIndexList indexesOf(const QVariant& value)
 
 } // namespace
 
+namespace {
+
+// Whether text, upper-cased, is wanted (or begins with it). Compares a character
+// at a time, so that a search through many rows allocates nothing.
+bool isUpperCaseMatch(const QString& text, const QString& wanted, bool partial)
+{
+    if (partial ? text.size() < wanted.size() : text.size() != wanted.size())
+        return false;
+    for (int i = 0; i < wanted.size(); ++i) {
+        if (text[i].toUpper() != wanted[i])
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
 qwxListCtrl::qwxListCtrl(const OdString& name, qwxWindow& parent)
     : qwxControl(name, parent)
     , d(std::make_unique<qwxListCtrlPrivate>(*this))
@@ -455,8 +480,8 @@ int qwxListCtrl::FindItem(long start, const wxString& text, bool partial) const
         return -1;
     const QString wanted = qut::toQt(text.Upper());
     for (int row = int(std::max(start, 0L)); row < GetCount(); ++row) {
-        const QString candidate = d->model->cellData(row, TextRole).toString().toUpper();
-        if (partial ? candidate.startsWith(wanted) : candidate == wanted)
+        const CellData* cell = d->model->firstCell(row);
+        if (cell && isUpperCaseMatch(cell->text, wanted, partial))
             return row;
     }
     return -1;
@@ -518,8 +543,10 @@ long qwxListCtrl::InsertItem(long row, const wxString& text, int imageIndex, con
 
 void qwxListCtrl::SetItem(long row, int column, const wxString& text, int imageIndex, const wxString& icon)
 {
+    // Shared, so that filling a list allocates no list of roles per cell.
+    static const QVector<int> changed{TextRole, ImageRole, IconRole};
     d->model->setCellContents(d->model->index(int(row), column), qut::toQt(text), imageIndex, qut::toQt(icon),
-                              {TextRole, ImageRole, IconRole});
+                              changed);
 }
 
 void qwxListCtrl::SetItemData(long row, int column, std::unique_ptr<qwxClientData> data)

@@ -2,6 +2,8 @@
 
 #include <QPersistentModelIndex>
 
+#include <optional>
+
 namespace dbr::components {
 
 class RowFilterModel::Private
@@ -20,7 +22,8 @@ public:
     int sourceCurrent() const { return q.sourceModel() ? current.row() : plainCurrent; }
 
     // Tells what moved since the last look: rows come, go and get filtered under a current row.
-    void recheck()
+    // After a reset a view has forgotten its current row, so it is told again.
+    void recheck(bool viewForgot = false)
     {
         const int source = sourceCurrent();
         const int shown = q.currentRow();
@@ -28,7 +31,7 @@ public:
             reportedSource = source;
             Q_EMIT q.currentSourceRowChanged();
         }
-        if (shown != reportedShown) {
+        if (shown != reportedShown || viewForgot) {
             reportedShown = shown;
             Q_EMIT q.currentRowChanged();
         }
@@ -61,6 +64,9 @@ public:
 
     RowFilterModel& q;
     QPersistentModelIndex current;
+    // The filter's pattern when it is plain text; none when it needs the regular expression.
+    std::optional<QString> literalFilter;
+    Qt::CaseSensitivity literalCase = Qt::CaseSensitive;
     // Looked up once per source: data() is asked for them on every row the filter reads.
     int checkedRole = -1;
     int selectedRole = -1;
@@ -80,7 +86,7 @@ RowFilterModel::RowFilterModel(QObject* parent)
     connect(this, &QAbstractItemModel::rowsRemoved, this, recheck);
     connect(this, &QAbstractItemModel::rowsMoved, this, recheck);
     connect(this, &QAbstractItemModel::layoutChanged, this, recheck);
-    connect(this, &QAbstractItemModel::modelReset, this, recheck);
+    connect(this, &QAbstractItemModel::modelReset, this, [this] { d->recheck(true); });
 }
 
 RowFilterModel::~RowFilterModel() = default;
@@ -102,6 +108,26 @@ void RowFilterModel::setSourceModel(QAbstractItemModel* source)
                                         });
     }
     d->recheck();
+}
+
+void RowFilterModel::setFilterPattern(const QRegularExpression& pattern)
+{
+    static const QRegularExpression special(QStringLiteral("[\\\\^$.|?*+()\\[\\]{}]"));
+    const QString text = pattern.pattern();
+    d->literalFilter = text.contains(special) ? std::nullopt : std::optional<QString>(text);
+    d->literalCase = pattern.patternOptions() & QRegularExpression::CaseInsensitiveOption ? Qt::CaseInsensitive
+                                                                                          : Qt::CaseSensitive;
+    setFilterRegularExpression(pattern);
+}
+
+bool RowFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
+{
+    if (!d->literalFilter)
+        return QSortFilterProxyModel::filterAcceptsRow(sourceRow, sourceParent);
+    if (d->literalFilter->isEmpty())
+        return true;
+    const QModelIndex index = sourceModel()->index(sourceRow, filterKeyColumn(), sourceParent);
+    return sourceModel()->data(index, filterRole()).toString().contains(*d->literalFilter, d->literalCase);
 }
 
 QVariant RowFilterModel::data(const QModelIndex& index, int role) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRegularExpression>
 #include <QSortFilterProxyModel>
 
 #include <memory>
@@ -19,6 +20,8 @@ class RowFilterModel : public QSortFilterProxyModel
     Q_PROPERTY(int currentSourceRow READ currentSourceRow WRITE setCurrentSourceRow NOTIFY currentSourceRowChanged)
     // The current row as shown; -1 while the filter hides it.
     Q_PROPERTY(int currentRow READ currentRow NOTIFY currentRowChanged)
+    // The filter as a view sets it: a pattern of plain text is matched as text, much faster.
+    Q_PROPERTY(QRegularExpression filterPattern READ filterRegularExpression WRITE setFilterPattern)
     Q_DISABLE_COPY(RowFilterModel)
 
 public:
@@ -28,6 +31,8 @@ public:
     void setSourceModel(QAbstractItemModel* source) override;
     // A check mark belongs to the row: every column answers the first one's.
     QVariant data(const QModelIndex& index, int role) const override;
+
+    void setFilterPattern(const QRegularExpression& pattern);
 
     int currentSourceRow() const;
     void setCurrentSourceRow(int row);
@@ -39,6 +44,9 @@ public:
     Q_INVOKABLE int proxyRow(int sourceRow) const;
     // The source's data of a source row; for what a view needs beyond the roles of its delegates.
     Q_INVOKABLE QVariant sourceData(int sourceRow, int column, const QString& roleName) const;
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
 
 Q_SIGNALS:
     void currentSourceRowChanged();
