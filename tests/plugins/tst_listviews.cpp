@@ -238,6 +238,14 @@ void tst_ListViews::table_selectsSortsAndEditsByRowsOfTheModel()
     QCOMPARE(report.GetItemText(report.GetSelection()), wxString("doors"));
     report.setSearchString("o");
     QTRY_COMPARE(shownTexts(table), QStringList({"doors", "roof"}));
+
+    // A plain TableView shows a list control's rows too.
+    qwxListCtrl& plain = list("plain");
+    plain.InsertColumn(0, "A");
+    plain.InsertColumn(1, "B");
+    plain.Append("row");
+    QTRY_COMPARE(m_hosted->item("plain")->property("rows").toInt(), 1);
+    QCOMPARE(m_hosted->item("plain")->property("columns").toInt(), 2);
 }
 
 QTEST_MAIN(tst_ListViews)

@@ -91,7 +91,7 @@ FocusScope {
 
             width: ListView.view.width
             height: 24
-            color: ListView.isCurrentItem ? "#cfe0f7" : "transparent"
+            color: ListView.isCurrentItem || model.selected === true ? "#cfe0f7" : "transparent"
             opacity: isEnabled ? 1 : 0.5
 
             Row {

@@ -367,13 +367,8 @@ public:
         : model(control, [](const QStringList& declared) { return std::make_unique<ListCtrlModel>(declared); })
     {}
 
-    ~qwxListCtrlPrivate()
-    {
-        // The proxy watches the model, so it goes first.
-        proxy.reset();
-    }
-
     ModelOnItem<ListCtrlModel> model;
+    // Declared after the model it watches, so that it goes first.
     std::unique_ptr<QAbstractProxyModel> proxy;
 };
 
