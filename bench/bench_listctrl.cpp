@@ -91,14 +91,6 @@ void fillQt(QStandardItemModel& model, int count)
         model.appendRow({new QStandardItem(texts[0]), new QStandardItem(texts[1]), new QStandardItem(texts[2])});
 }
 
-template<typename Build>
-double bytesPerRow(int count, Build build)
-{
-    const std::size_t before = heapInUse();
-    build();
-    return double(heapInUse() - before) / count;
-}
-
 void fillWithOurs(benchmark::State& state, int count)
 {
     wxCells(count);
@@ -106,7 +98,7 @@ void fillWithOurs(benchmark::State& state, int count)
     for (auto _ : state)
         reportList(qml, count);
     std::unique_ptr<qwxListCtrl> kept;
-    state.counters["bytes/row"] = bytesPerRow(count, [&] { kept = reportList(qml, count); });
+    state.counters["bytes/row"] = bytesPerEntry(count, [&] { kept = reportList(qml, count); });
 }
 
 void fillWithQt(benchmark::State& state, int count)
@@ -117,7 +109,7 @@ void fillWithQt(benchmark::State& state, int count)
         fillQt(model, count);
     }
     auto kept = std::make_unique<QStandardItemModel>();
-    state.counters["bytes/row"] = bytesPerRow(count, [&] { fillQt(*kept, count); });
+    state.counters["bytes/row"] = bytesPerEntry(count, [&] { fillQt(*kept, count); });
 }
 
 wxArrayString wxFirstCells(int count)

@@ -70,14 +70,6 @@ void buildQt(QStandardItemModel& model, int count)
     }
 }
 
-template<typename Build>
-double bytesPerNode(int count, Build build)
-{
-    const std::size_t before = heapInUse();
-    build();
-    return double(heapInUse() - before) / count;
-}
-
 void buildWithOurs(benchmark::State& state, int count)
 {
     wxTexts(count);
@@ -87,7 +79,7 @@ void buildWithOurs(benchmark::State& state, int count)
         buildOurs(tree, count);
     }
     std::unique_ptr<qwxTreeCtrl> kept;
-    state.counters["bytes/node"] = bytesPerNode(count, [&] {
+    state.counters["bytes/node"] = bytesPerEntry(count, [&] {
         kept = std::make_unique<qwxTreeCtrl>("tree", host);
         buildOurs(*kept, count);
     });
@@ -109,7 +101,7 @@ void buildWithQt(benchmark::State& state, int count, bool besideSortProxy)
     }
     std::unique_ptr<QStandardItemModel> keptModel;
     std::unique_ptr<QSortFilterProxyModel> keptProxy;
-    state.counters["bytes/node"] = bytesPerNode(count, [&] {
+    state.counters["bytes/node"] = bytesPerEntry(count, [&] {
         keptModel = std::make_unique<QStandardItemModel>();
         keptProxy = std::make_unique<QSortFilterProxyModel>();
         build(*keptModel, *keptProxy);

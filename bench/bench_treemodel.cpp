@@ -96,11 +96,11 @@ template<typename Model, typename Build>
 double bytesPerNode(int count, Build build)
 {
     texts(count);
-    const std::size_t before = heapInUse();
-    auto model = std::make_unique<Model>();
-    build(*model);
-    const std::size_t after = heapInUse();
-    return double(after - before) / count;
+    std::unique_ptr<Model> model;
+    return bytesPerEntry(count, [&] {
+        model = std::make_unique<Model>();
+        build(*model);
+    });
 }
 
 void buildWithOurs(benchmark::State& state, ParentOf shape, int count)

@@ -13,6 +13,15 @@ void registerBenchmarks();
 // Bytes of the heap in use now; the difference around a build is what it holds.
 std::size_t heapInUse();
 
+// The heap a build holds, per entry it made.
+template<typename Build>
+double bytesPerEntry(int count, Build build)
+{
+    const std::size_t before = heapInUse();
+    build();
+    return double(heapInUse() - before) / count;
+}
+
 // Registers ours and its plain-Qt baseline under one name, timed in microseconds.
 template<typename Ours, typename Baseline, typename... Args>
 void registerPair(const std::string& name, Ours ours, Baseline baseline, Args... args)
