@@ -1,0 +1,49 @@
+#include "gpmcategoryitem.h"
+
+#include "rxmembers_p.h"
+
+#include <oa/Property.h>
+#include <qut/qtconversions.h>
+
+namespace dbr {
+
+DBR_GPM_DEFINE_RX_MEMBERS(GPMCategoryItem, GPMTreeData, "GPMCategoryItem")
+
+GPMCategoryItem::GPMCategoryItem(const oa::PropertyCategory& category)
+    : m_category(category)
+{
+}
+
+GPMCategoryItem::~GPMCategoryItem() = default;
+
+QString GPMCategoryItem::type() const
+{
+    return QStringLiteral("category");
+}
+
+QString GPMCategoryItem::label() const
+{
+    return qut::toQt(m_category.localName());
+}
+
+bool GPMCategoryItem::isReadOnly() const
+{
+    return true;
+}
+
+const ut::UUID& GPMCategoryItem::GUID() const
+{
+    return m_category.GUID();
+}
+
+AvSmartPtr<const OdRxObject> GPMCategoryItem::getAttribute(const OdRxClass*, std::optional<const OdRxObject*>) const
+{
+    return AvSmartPtr<const OdRxObject>();
+}
+
+unsigned int GPMCategoryItem::sortWeight() const
+{
+    return m_category.sortWeight();
+}
+
+} // namespace dbr
