@@ -11,6 +11,8 @@
 #include "gpmstringdata.h"
 #include "gpmunknowntypedata.h"
 
+#include <QAbstractListModel>
+
 #include <oa/Property.h>
 #include <oa/PropertyType.h>
 #include <tdx/AvRxObject.h>
@@ -99,13 +101,15 @@ void clearGPMTreeDataFactory()
 namespace {
 
 // Registers the runtime classes when the library is loaded, parents first, and
-// takes them off when it is unloaded, children first, without throwing.
+// takes them off when it is unloaded, children first, without throwing. QML
+// reads the items' models only once their pointer type is known too.
 template<typename... Classes>
 struct ClassRegistration
 {
     ClassRegistration()
     {
         ((Classes::desc() ? void() : Classes::rxInit()), ...);
+        qRegisterMetaType<QAbstractListModel*>();
     }
     ~ClassRegistration() { unregister<Classes...>(); }
 
