@@ -3,6 +3,7 @@
 #include "commandsample.h"
 #include "layertreesample.h"
 #include "printsample.h"
+#include "propertiessample.h"
 
 const std::vector<SampleEntry>& gallerySamples()
 {
@@ -13,6 +14,8 @@ const std::vector<SampleEntry>& gallerySamples()
          [] { return std::make_unique<LayerTreeSample>(); }},
         {"command", "a drawing command with its options in a command context dialog beside the command line",
          [] { return std::make_unique<CommandSample>(); }},
+        {"properties", "a property panel: texts, numbers with units and choices edited through their property items",
+         [] { return std::make_unique<PropertiesSample>(); }},
     };
     return samples;
 }

@@ -20,7 +20,7 @@ RowLayout {
         model: editor.itemData ? editor.itemData.unitsModel : null
         textRole: "modelData"
         currentIndex: editor.itemData ? editor.itemData.unitsIndex : -1
-        implicitWidth: 80
+        implicitWidth: 96
         onActivated: editor.itemData.setCurrentUnitIndex(index)
     }
 }
