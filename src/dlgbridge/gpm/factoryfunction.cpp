@@ -7,8 +7,13 @@ namespace dbr {
 
 DBR_GPM_DEFINE_RX_MEMBERS(FactoryFunction, OdRxObject, "FactoryFunction")
 
+struct FactoryFunction::Private
+{
+    Function function;
+};
+
 FactoryFunction::FactoryFunction(Function function)
-    : m_function(std::move(function))
+    : d(new Private{std::move(function)})
 {
 }
 
@@ -16,7 +21,7 @@ FactoryFunction::~FactoryFunction() = default;
 
 AvSmartPtr<GPMTreeData> FactoryFunction::create(const oa::Property& property) const
 {
-    return m_function(property);
+    return d->function(property);
 }
 
 } // namespace dbr

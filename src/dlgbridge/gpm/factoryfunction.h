@@ -7,6 +7,7 @@
 #include <tdx/AvSmartPtr.h>
 
 #include <functional>
+#include <memory>
 
 namespace oa {
 class Property;
@@ -32,7 +33,8 @@ public:
     AvSmartPtr<GPMTreeData> create(const oa::Property& property) const;
 
 private:
-    Function m_function;
+    struct Private;
+    std::unique_ptr<Private> const d;
 };
 
 } // namespace dbr

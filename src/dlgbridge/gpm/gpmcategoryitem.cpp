@@ -9,8 +9,13 @@ namespace dbr {
 
 DBR_GPM_DEFINE_RX_MEMBERS(GPMCategoryItem, GPMTreeData, "GPMCategoryItem")
 
+struct GPMCategoryItem::Private
+{
+    const oa::PropertyCategory& category;
+};
+
 GPMCategoryItem::GPMCategoryItem(const oa::PropertyCategory& category)
-    : m_category(category)
+    : d(new Private{category})
 {
 }
 
@@ -23,7 +28,7 @@ QString GPMCategoryItem::type() const
 
 QString GPMCategoryItem::label() const
 {
-    return qut::toQt(m_category.localName());
+    return qut::toQt(d->category.localName());
 }
 
 bool GPMCategoryItem::isReadOnly() const
@@ -33,7 +38,7 @@ bool GPMCategoryItem::isReadOnly() const
 
 const ut::UUID& GPMCategoryItem::GUID() const
 {
-    return m_category.GUID();
+    return d->category.GUID();
 }
 
 AvSmartPtr<const OdRxObject> GPMCategoryItem::getAttribute(const OdRxClass*, std::optional<const OdRxObject*>) const
@@ -43,7 +48,7 @@ AvSmartPtr<const OdRxObject> GPMCategoryItem::getAttribute(const OdRxClass*, std
 
 unsigned int GPMCategoryItem::sortWeight() const
 {
-    return m_category.sortWeight();
+    return d->category.sortWeight();
 }
 
 } // namespace dbr

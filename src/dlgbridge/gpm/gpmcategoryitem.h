@@ -3,6 +3,8 @@
 #include <dlgbridge/dlgbridge_export.h>
 #include <dlgbridge/gpm/gpmtreedata.h>
 
+#include <memory>
+
 namespace oa {
 class PropertyCategory;
 }
@@ -29,7 +31,8 @@ public:
     unsigned int sortWeight() const override;
 
 private:
-    const oa::PropertyCategory& m_category;
+    struct Private;
+    std::unique_ptr<Private> const d;
 };
 
 } // namespace dbr

@@ -21,48 +21,58 @@ QString gpmNoValueText()
     return QObject::tr("*NoValue*");
 }
 
-GPMPropertyDataBase::GPMPropertyDataBase(const oa::Property& property)
-    : m_property(property)
+struct GPMPropertyDataBase::Private
 {
+    const oa::Property& property;
+};
+
+GPMPropertyDataBase::GPMPropertyDataBase(const oa::Property& property)
+    : d(new Private{property})
+{
+}
+
+const oa::Property& GPMPropertyDataBase::property() const
+{
+    return d->property;
 }
 
 GPMPropertyDataBase::~GPMPropertyDataBase() = default;
 
 QString GPMPropertyDataBase::label() const
 {
-    return qut::toQt(m_property.localName());
+    return qut::toQt(d->property.localName());
 }
 
 QString GPMPropertyDataBase::description() const
 {
-    return qut::toQt(m_property.description());
+    return qut::toQt(d->property.description());
 }
 
 bool GPMPropertyDataBase::isReadOnly() const
 {
-    return m_property.isReadOnly(std::nullopt);
+    return d->property.isReadOnly(std::nullopt);
 }
 
 const ut::UUID& GPMPropertyDataBase::GUID() const
 {
-    return m_property.GUID();
+    return d->property.GUID();
 }
 
 AvSmartPtr<const OdRxObject> GPMPropertyDataBase::getAttribute(const OdRxClass* cls,
                                                                std::optional<const OdRxObject*> object) const
 {
-    return m_property.getAttribute(cls, object);
+    return d->property.getAttribute(cls, object);
 }
 
 OdString GPMPropertyDataBase::getStringValue() const
 {
     OdString result;
     tdx::PropertyValue value;
-    if (m_property.getValue(value, std::nullopt)) {
-        const oa::AttributeCollection& attributes = m_property.attributes(std::nullopt);
+    if (d->property.getValue(value, std::nullopt)) {
+        const oa::AttributeCollection& attributes = d->property.attributes(std::nullopt);
         // The drawing database that gives the formatting context is not reached
         // from here yet; types format without one.
-        m_property.type()->valueToString(result, value, nullptr, &attributes);
+        d->property.type()->valueToString(result, value, nullptr, &attributes);
     }
     return result;
 }
@@ -70,7 +80,7 @@ OdString GPMPropertyDataBase::getStringValue() const
 std::pair<QString, tdx::PropertyValue> GPMPropertyDataBase::getStringOrValue() const
 {
     tdx::PropertyValue value;
-    if (!m_property.getValue(value, std::nullopt))
+    if (!d->property.getValue(value, std::nullopt))
         return {QString(), tdx::PropertyValue()};
     if (value.flags() & tdx::PropertyValue::kVaries)
         return {gpmVariesText(), value};
@@ -81,7 +91,7 @@ std::pair<QString, tdx::PropertyValue> GPMPropertyDataBase::getStringOrValue() c
 
 bool GPMPropertyDataBase::readValue(tdx::PropertyValue& value, bool logFailure) const
 {
-    if (m_property.getValue(value, std::nullopt))
+    if (d->property.getValue(value, std::nullopt))
         return true;
     if (logFailure)
         qDebug() << "Unable to get property " << label() << " value";
@@ -103,8 +113,8 @@ void GPMPropertyDataBase::logTypedFailure() const
 
 bool GPMPropertyDataBase::writeValue(const tdx::PropertyValue& value)
 {
-    Q_EMIT updateStarted(qut::toQt(OdString(m_property.GUID())));
-    const bool written = m_property.setValue(value, std::nullopt);
+    Q_EMIT updateStarted(qut::toQt(OdString(d->property.GUID())));
+    const bool written = d->property.setValue(value, std::nullopt);
     if (!written)
         qDebug() << "Error setting property " << label() << " value";
     Q_EMIT updateFinished(written);
@@ -135,7 +145,7 @@ bool GPMPropertyDataBase::writeChoice(int& currentIndex, int index, const std::o
 bool GPMPropertyDataBase::readVaries() const
 {
     tdx::PropertyValue value;
-    return m_property.getValue(value, std::nullopt) && (value.flags() & tdx::PropertyValue::kVaries);
+    return d->property.getValue(value, std::nullopt) && (value.flags() & tdx::PropertyValue::kVaries);
 }
 
 } // namespace dbr

@@ -6,6 +6,7 @@
 #include <oda/OdString.h>
 #include <tdx/PropertyValue.h>
 
+#include <memory>
 #include <utility>
 
 namespace oa {
@@ -36,7 +37,7 @@ public:
 protected:
     explicit GPMPropertyDataBase(const oa::Property& property);
 
-    const oa::Property& property() const { return m_property; }
+    const oa::Property& property() const;
 
     // The text shown instead of the value ("*Varies*", "*NoValue*"), or an
     // empty text, with the value read; both empty when it can't be read.
@@ -63,7 +64,8 @@ protected:
     bool readVaries() const;
 
 private:
-    const oa::Property& m_property;
+    struct Private;
+    std::unique_ptr<Private> const d;
 };
 
 // The translated texts shown instead of a value.
