@@ -38,8 +38,10 @@ public:
     Wall()
     {
         using namespace oa::PropType;
-        const auto metres = attribute<oa::UnitsAttribute>(oa::UnitsAttribute::Units{{"m", 1.0}, {"mm", 0.001}, {"km", 1000.0}});
-        const auto squareMetres = attribute<oa::UnitsAttribute>(oa::UnitsAttribute::Units{{"m²", 1.0}, {"cm²", 0.0001}});
+        const auto metres =
+            attribute<oa::UnitsAttribute>(oa::UnitsAttribute::Units{{"m", 1.0}, {"mm", 0.001}, {"km", 1000.0}});
+        const auto squareMetres =
+            attribute<oa::UnitsAttribute>(oa::UnitsAttribute::Units{{"m²", 1.0}, {"cm²", 0.0001}});
         const auto cubicMetres = attribute<oa::UnitsAttribute>(oa::UnitsAttribute::Units{{"m³", 1.0}, {"l", 0.001}});
         const auto kilograms = attribute<oa::UnitsAttribute>(oa::UnitsAttribute::Units{{"kg", 1.0}, {"t", 1000.0}});
         const auto readOnly = attribute<oa::ReadOnlyAttribute>();
@@ -49,10 +51,10 @@ public:
         general = {add("Name", String::getType(), V(OdString("Wall 1")), {}, "What the wall is called"),
                    add("Handle", String::getType(), V(OdString("1F3A")), {readOnly}, "The drawing's own key"),
                    add("Side", String::getType(), V(OdString("Exterior")),
-                       {attribute<oa::EnumerationAttribute>(oa::EnumerationAttribute::Values{
-                           {"Exterior", V(OdString("Exterior"))},
-                           {"Interior", V(OdString("Interior"))},
-                           {"Partition", V(OdString("Partition"))}})}),
+                       {attribute<oa::EnumerationAttribute>(
+                           oa::EnumerationAttribute::Values{{"Exterior", V(OdString("Exterior"))},
+                                                            {"Interior", V(OdString("Interior"))},
+                                                            {"Partition", V(OdString("Partition"))}})}),
                    add("Visible", Boolean::getType(), V(true), {attribute<oa::BooleanValueAttribute>("Yes", "No")}),
                    add("Material", String::getType(), material, {}, "Differs among the selected segments")};
         geometry = {add("Length", Length::getType(), V(4.2), {metres}),
@@ -95,8 +97,8 @@ private:
     const oa::Property* add(const char* name, oa::PropertyType* type, V value, oa::AttributeCollection attributes = {},
                             const char* description = "")
     {
-        m_properties.push_back(std::make_unique<oa::Property>(name, name, type, std::move(value),
-                                                              std::move(attributes), description));
+        m_properties.push_back(
+            std::make_unique<oa::Property>(name, name, type, std::move(value), std::move(attributes), description));
         return m_properties.back().get();
     }
 
@@ -182,7 +184,8 @@ int PropertiesSample::run(dbr::quickhost::QuickHost& host, const SampleOptions& 
 
         const auto real = [&wall](const char* name) { return wall.find(name)->storedValue().toReal(); };
         const bool edited = shown(*wall.find("Name")) == QLatin1String("Wall 1 north") && real("Length") == 4.5 &&
-                            qFuzzyCompare(real("Thickness"), 0.3) && shown(*wall.find("Side")) == QLatin1String("Interior") &&
+                            qFuzzyCompare(real("Thickness"), 0.3) &&
+                            shown(*wall.find("Side")) == QLatin1String("Interior") &&
                             wall.find("Layers")->storedValue().toInteger() == 3 &&
                             wall.find("Fire rating")->storedValue().toInteger() == 90;
         result = options.scripted && (!edited || !player.screenshotSaved()) ? 1 : 0;

@@ -38,8 +38,7 @@ struct PropertyPanelModel::Private
 PropertyPanelModel::PropertyPanelModel(QObject* parent)
     : QAbstractListModel(parent)
     , d(new Private)
-{
-}
+{}
 
 PropertyPanelModel::~PropertyPanelModel() = default;
 

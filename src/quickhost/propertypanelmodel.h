@@ -28,11 +28,7 @@ class DLGBRIDGE_QUICKHOST_EXPORT PropertyPanelModel : public QAbstractListModel
     Q_OBJECT
 
 public:
-    enum Role {
-        ItemRole = Qt::UserRole + 1,
-        CategoryRole,
-        CategoryItemRole
-    };
+    enum Role { ItemRole = Qt::UserRole + 1, CategoryRole, CategoryItemRole };
 
     explicit PropertyPanelModel(QObject* parent = nullptr);
     ~PropertyPanelModel() override;

@@ -123,22 +123,22 @@ void tst_GPMData::values_readAsText_data()
     const oa::AttributeCollection none;
     const oa::AttributeCollection readOnlyMetres{metres(), attribute<oa::ReadOnlyAttribute>()};
     QTest::newRow("integer") << Integer::getType() << V::fromInteger(-7) << none << "-7" << QString();
-    QTest::newRow("integer with no value") << Integer::getType() << V(V::kInteger, 0, 49) << none << "*NoValue*"
-                                           << QString();
+    QTest::newRow("integer with no value")
+        << Integer::getType() << V(V::kInteger, 0, 49) << none << "*NoValue*" << QString();
     // Varies wins over no value.
-    QTest::newRow("integer with both bits") << Integer::getType() << V(V::kInteger, 0, 51) << none << "*Varies*"
-                                            << QString();
+    QTest::newRow("integer with both bits")
+        << Integer::getType() << V(V::kInteger, 0, 51) << none << "*Varies*" << QString();
     QTest::newRow("integer holding a real") << Integer::getType() << V(2.5) << none << QString() << typedMessage;
     QTest::newRow("plain real") << Real::getType() << V(3.14159265) << none << "3.14159" << QString();
-    QTest::newRow("real in its best unit") << Distance::getType() << V(1234.56789) << oa::AttributeCollection{metres()}
-                                           << "1.23456789" << QString();
-    QTest::newRow("read-only real, shown only") << Distance::getType() << V(1234.56789) << readOnlyMetres
-                                                << "1.23457" << QString();
+    QTest::newRow("real in its best unit")
+        << Distance::getType() << V(1234.56789) << oa::AttributeCollection{metres()} << "1.23456789" << QString();
+    QTest::newRow("read-only real, shown only")
+        << Distance::getType() << V(1234.56789) << readOnlyMetres << "1.23457" << QString();
     QTest::newRow("real varies") << Length::getType() << V(V::kReal, 0, 2) << none << "*Varies*" << QString();
     QTest::newRow("string") << String::getType() << V(OdString("Wall")) << none << "Wall" << QString();
     QTest::newRow("string varies") << String::getType() << V(V::kString, 0, 3) << none << "*Varies*" << QString();
-    QTest::newRow("string holding a number") << String::getType() << V::fromInteger(1) << none << QString()
-                                             << typedMessage;
+    QTest::newRow("string holding a number")
+        << String::getType() << V::fromInteger(1) << none << QString() << typedMessage;
     QTest::newRow("unknown type") << oa::PropType::Point::getType() << V(2.5) << none << "2.5" << QString();
 }
 
@@ -169,16 +169,25 @@ void tst_GPMData::numbers_writeTextAndSpecialWords_data()
     using namespace oa::PropType;
     const QStringList written{"started", "finished true", "valueChanged()"};
     const QStringList special{"started", "finished true"};
-    QTest::newRow("integer") << Integer::getType() << "42" << "2/42/48" << written;
-    QTest::newRow("integer, empty text") << Integer::getType() << "" << "2/0/49" << special;
-    QTest::newRow("integer, no value word") << Integer::getType() << "*NoValue*" << "2/0/49" << special;
-    QTest::newRow("integer, varies word") << Integer::getType() << "*Varies*" << "2/0/50" << special;
-    QTest::newRow("integer, no number") << Integer::getType() << "4x" << "2/7/48" << QStringList();
-    QTest::newRow("real, no value word") << Real::getType() << "*NoValue*" << "3/0/1" << special;
-    QTest::newRow("real, varies word") << Real::getType() << "*Varies*" << "3/0/2" << special;
-    QTest::newRow("real, no number") << Real::getType() << "one" << "2/7/48" << QStringList();
+    QTest::newRow("integer") << Integer::getType() << "42"
+                             << "2/42/48" << written;
+    QTest::newRow("integer, empty text") << Integer::getType() << ""
+                                         << "2/0/49" << special;
+    QTest::newRow("integer, no value word") << Integer::getType() << "*NoValue*"
+                                            << "2/0/49" << special;
+    QTest::newRow("integer, varies word") << Integer::getType() << "*Varies*"
+                                          << "2/0/50" << special;
+    QTest::newRow("integer, no number") << Integer::getType() << "4x"
+                                        << "2/7/48" << QStringList();
+    QTest::newRow("real, no value word") << Real::getType() << "*NoValue*"
+                                         << "3/0/1" << special;
+    QTest::newRow("real, varies word") << Real::getType() << "*Varies*"
+                                       << "3/0/2" << special;
+    QTest::newRow("real, no number") << Real::getType() << "one"
+                                     << "2/7/48" << QStringList();
     // A text property takes the words as text.
-    QTest::newRow("string, varies word") << String::getType() << "*Varies*" << "4/0/0" << written;
+    QTest::newRow("string, varies word") << String::getType() << "*Varies*"
+                                         << "4/0/0" << written;
 }
 
 void tst_GPMData::numbers_writeTextAndSpecialWords()
@@ -235,7 +244,8 @@ void tst_GPMData::refusedWrites_leaveTheRealValue_data()
         return Write([text](GPMTreeData& item) { item.setProperty("value", QString::fromLatin1(text)); });
     };
     const auto choose = [](int index) {
-        return Write([index](GPMTreeData& item) { QMetaObject::invokeMethod(&item, "setCurrentIndex", Q_ARG(int, index)); });
+        return Write(
+            [index](GPMTreeData& item) { QMetaObject::invokeMethod(&item, "setCurrentIndex", Q_ARG(int, index)); });
     };
     const auto readOnly = [](oa::AttributeCollection attributes) {
         attributes.push_back(attribute<oa::ReadOnlyAttribute>());
@@ -243,7 +253,9 @@ void tst_GPMData::refusedWrites_leaveTheRealValue_data()
     };
     const V seven = V::fromInteger(7);
     for (bool locked : {false, true}) {
-        const auto with = [&](oa::AttributeCollection attributes) { return locked ? readOnly(attributes) : attributes; };
+        const auto with = [&](oa::AttributeCollection attributes) {
+            return locked ? readOnly(attributes) : attributes;
+        };
         const QByteArray how = locked ? "read-only " : "refused ";
         QTest::newRow(how + "integer") << Integer::getType() << seven << with({}) << setValue("8");
         QTest::newRow(how + "integer, no value") << Integer::getType() << seven << with({}) << setValue("");
@@ -251,8 +263,8 @@ void tst_GPMData::refusedWrites_leaveTheRealValue_data()
         QTest::newRow(how + "real, varies") << Real::getType() << V(7.0) << with({}) << setValue("*Varies*");
         QTest::newRow(how + "string") << String::getType() << V(OdString("7")) << with({}) << setValue("8");
         QTest::newRow(how + "enumeration") << Enumeration::getType() << seven << with(sizes(true)) << choose(0);
-        QTest::newRow(how + "enumeration, no value") << Enumeration::getType() << seven << with(sizes(false))
-                                                     << choose(3);
+        QTest::newRow(how + "enumeration, no value")
+            << Enumeration::getType() << seven << with(sizes(false)) << choose(3);
         QTest::newRow(how + "boolean") << Boolean::getType() << V(true) << with(yesNo(false)) << choose(1);
         QTest::newRow(how + "boolean, no value") << Boolean::getType() << V(true) << with(yesNo(false)) << choose(2);
     }
@@ -294,8 +306,8 @@ void tst_GPMData::choices_readTheirRow_data()
     QTest::newRow("value not listed") << Enumeration::getType() << V::fromInteger(9) << sizes(false) << three << -1
                                       << false;
     // It lands on the "*NoValue*" row.
-    QTest::newRow("value not listed, may have none") << Enumeration::getType() << V::fromInteger(9) << sizes(true)
-                                                     << four << 3 << false;
+    QTest::newRow("value not listed, may have none")
+        << Enumeration::getType() << V::fromInteger(9) << sizes(true) << four << 3 << false;
     QTest::newRow("enumeration varies") << Integer::getType() << V(V::kInteger, 0, 50) << sizes(true) << four << -1
                                         << true;
     QTest::newRow("true") << Boolean::getType() << V(true) << yesNo(false) << QStringList{"Yes", "No"} << 0 << false;
@@ -341,11 +353,9 @@ void tst_GPMData::choices_writeTheirRows_data()
     const QStringList ended = written + QStringList{"variesChanged()"};
     const V two = V::fromInteger(2);
     QTest::newRow("enumeration row") << Enumeration::getType() << two << sizes(false) << 2 << "2/3/48" << written;
-    QTest::newRow("the row it has") << Enumeration::getType() << two << sizes(false) << 1 << "2/2/48"
-                                    << QStringList();
+    QTest::newRow("the row it has") << Enumeration::getType() << two << sizes(false) << 1 << "2/2/48" << QStringList();
     // Past the labels is no value, whether or not the property allows it.
-    QTest::newRow("row after the labels") << Enumeration::getType() << two << sizes(false) << 3 << "0/0/1"
-                                          << written;
+    QTest::newRow("row after the labels") << Enumeration::getType() << two << sizes(false) << 3 << "0/0/1" << written;
     QTest::newRow("beyond") << Enumeration::getType() << two << sizes(true) << 4 << "2/2/48" << QStringList();
     QTest::newRow("negative") << Enumeration::getType() << two << sizes(true) << -2 << "2/2/48" << QStringList();
     QTest::newRow("ending a variation") << Enumeration::getType() << V(V::kInteger, 0, 50) << sizes(false) << 0

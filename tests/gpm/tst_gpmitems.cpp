@@ -36,9 +36,9 @@ namespace {
 std::vector<oa::PropertyType*> allTypes()
 {
     using namespace oa::PropType;
-    return {Angle::getType(),  Area::getType(),   Boolean::getType(), Color::getType(), Distance::getType(),
-            Enumeration::getType(), Integer::getType(), Length::getType(), Linetype::getType(), Mass::getType(),
-            Real::getType(),   String::getType(), Volume::getType()};
+    return {Angle::getType(),       Area::getType(),    Boolean::getType(), Color::getType(),    Distance::getType(),
+            Enumeration::getType(), Integer::getType(), Length::getType(),  Linetype::getType(), Mass::getType(),
+            Real::getType(),        String::getType(),  Volume::getType()};
 }
 
 std::size_t attachedFactories()
@@ -188,24 +188,36 @@ void tst_GPMItems::factories_makeTheItemOfEachType_data()
     QTest::addColumn<QString>("file");
 
     using namespace oa::PropType;
-    QTest::newRow("angle") << Angle::getType() << false << "dbr::GPMRealData" << "real" << "RealType.qml";
+    QTest::newRow("angle") << Angle::getType() << false << "dbr::GPMRealData"
+                           << "real"
+                           << "RealType.qml";
     // The unit-bearing types never become choices.
-    QTest::newRow("length with values") << Length::getType() << true << "dbr::GPMRealData" << "real"
+    QTest::newRow("length with values") << Length::getType() << true << "dbr::GPMRealData"
+                                        << "real"
                                         << "RealType.qml";
-    QTest::newRow("boolean") << Boolean::getType() << false << "dbr::GPMBooleanData" << "combobox"
+    QTest::newRow("boolean") << Boolean::getType() << false << "dbr::GPMBooleanData"
+                             << "combobox"
                              << "EnumerationType.qml";
-    QTest::newRow("enumeration") << Enumeration::getType() << true << "dbr::GPMEnumerationData" << "combobox"
+    QTest::newRow("enumeration") << Enumeration::getType() << true << "dbr::GPMEnumerationData"
+                                 << "combobox"
                                  << "EnumerationType.qml";
-    QTest::newRow("integer") << Integer::getType() << false << "dbr::GPMIntegerData" << "integer"
+    QTest::newRow("integer") << Integer::getType() << false << "dbr::GPMIntegerData"
+                             << "integer"
                              << "IntegerType.qml";
-    QTest::newRow("integer with values") << Integer::getType() << true << "dbr::GPMEnumerationData" << "combobox"
+    QTest::newRow("integer with values") << Integer::getType() << true << "dbr::GPMEnumerationData"
+                                         << "combobox"
                                          << "EnumerationType.qml";
-    QTest::newRow("real") << Real::getType() << false << "dbr::GPMRealData" << "real" << "RealType.qml";
-    QTest::newRow("real with values") << Real::getType() << true << "dbr::GPMEnumerationData" << "combobox"
+    QTest::newRow("real") << Real::getType() << false << "dbr::GPMRealData"
+                          << "real"
+                          << "RealType.qml";
+    QTest::newRow("real with values") << Real::getType() << true << "dbr::GPMEnumerationData"
+                                      << "combobox"
                                       << "EnumerationType.qml";
-    QTest::newRow("string") << String::getType() << false << "dbr::GPMStringData" << "string"
+    QTest::newRow("string") << String::getType() << false << "dbr::GPMStringData"
+                            << "string"
                             << "StringType.qml";
-    QTest::newRow("string with values") << String::getType() << true << "dbr::GPMEnumerationData" << "combobox"
+    QTest::newRow("string with values") << String::getType() << true << "dbr::GPMEnumerationData"
+                                        << "combobox"
                                         << "EnumerationType.qml";
     QTest::newRow("colour") << Color::getType() << false << QString() << QString() << QString();
     QTest::newRow("point") << Point::getType() << false << QString() << QString() << QString();
@@ -301,8 +313,8 @@ void tst_GPMItems::categoryItem_isAReadOnlyHeading()
 
 void tst_GPMItems::componentUrl_findsTheKitsFiles()
 {
-    for (const char* file : {"EnumerationType.qml", "IntegerType.qml", "RealType.qml", "StringType.qml",
-                             "UnknownType.qml"}) {
+    for (const char* file :
+         {"EnumerationType.qml", "IntegerType.qml", "RealType.qml", "StringType.qml", "UnknownType.qml"}) {
         const QUrl url = GPMTreeData::gpmComponentUrl(QString::fromLatin1(file));
         QVERIFY2(url.isLocalFile() && QFileInfo::exists(url.toLocalFile()), qPrintable(url.toString()));
     }

@@ -68,10 +68,7 @@ private Q_SLOTS:
     void readOnlyRows_takeNoInput();
 
 private:
-    QQuickItem* editor(const char* name) const
-    {
-        return findItem(m_panel, QString::fromLatin1(name));
-    }
+    QQuickItem* editor(const char* name) const { return findItem(m_panel, QString::fromLatin1(name)); }
     void typeInto(const char* name, const QString& text)
     {
         QQuickItem* field = editor(name);
@@ -105,12 +102,12 @@ void tst_PropertyPanel::init()
     m_properties.clear();
     m_properties.push_back(named("Name", String::getType(), V(OdString("Wall"))));
     m_properties.push_back(named("Count", Integer::getType(), V::fromInteger(3)));
-    m_properties.push_back(named("Style", Enumeration::getType(), V::fromInteger(2),
-                                 {attribute<oa::EnumerationAttribute>(oa::EnumerationAttribute::Values{
-                                     {"Solid", V::fromInteger(1)}, {"Dashed", V::fromInteger(2)},
-                                     {"Dotted", V::fromInteger(3)}})}));
-    m_properties.push_back(named("Locked", String::getType(), V(OdString("fixed")),
-                                 {attribute<oa::ReadOnlyAttribute>()}));
+    m_properties.push_back(
+        named("Style", Enumeration::getType(), V::fromInteger(2),
+              {attribute<oa::EnumerationAttribute>(oa::EnumerationAttribute::Values{
+                  {"Solid", V::fromInteger(1)}, {"Dashed", V::fromInteger(2)}, {"Dotted", V::fromInteger(3)}})}));
+    m_properties.push_back(
+        named("Locked", String::getType(), V(OdString("fixed")), {attribute<oa::ReadOnlyAttribute>()}));
     m_properties.push_back(named("Width", Distance::getType(), V(1500.0), {metres()}));
     V varies(OdString("oak"));
     varies.setVaries();
@@ -119,8 +116,8 @@ void tst_PropertyPanel::init()
 
     m_model = std::make_unique<quickhost::PropertyPanelModel>();
     new QAbstractItemModelTester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest, m_model.get());
-    m_model->addCategory(m_general, {m_properties[0].get(), m_properties[1].get(), m_properties[2].get(),
-                                     m_properties[3].get()});
+    m_model->addCategory(m_general,
+                         {m_properties[0].get(), m_properties[1].get(), m_properties[2].get(), m_properties[3].get()});
     m_model->addCategory(m_other, {m_properties[6].get(), nullptr});
     m_model->addCategory(m_geometry, {m_properties[4].get(), m_properties[5].get()});
 
@@ -169,16 +166,25 @@ void tst_PropertyPanel::typing_writesBackAndRefusalsShowTheRealValue_data()
     QTest::addColumn<QString>("shown");
     QTest::addColumn<QString>("stored");
 
-    QTest::newRow("string") << 0 << QByteArray("Name") << "Door" << false << "Door" << "Door";
-    QTest::newRow("string refused") << 0 << QByteArray("Name") << "Door" << true << "Wall" << "Wall";
-    QTest::newRow("integer") << 1 << QByteArray("Count") << "12" << false << "12" << "12";
-    QTest::newRow("integer cleared") << 1 << QByteArray("Count") << "" << false << "*NoValue*" << "0";
-    QTest::newRow("no integer") << 1 << QByteArray("Count") << "x" << false << "3" << "3";
-    QTest::newRow("integer refused") << 1 << QByteArray("Count") << "12" << true << "3" << "3";
+    QTest::newRow("string") << 0 << QByteArray("Name") << "Door" << false << "Door"
+                            << "Door";
+    QTest::newRow("string refused") << 0 << QByteArray("Name") << "Door" << true << "Wall"
+                                    << "Wall";
+    QTest::newRow("integer") << 1 << QByteArray("Count") << "12" << false << "12"
+                             << "12";
+    QTest::newRow("integer cleared") << 1 << QByteArray("Count") << "" << false << "*NoValue*"
+                                     << "0";
+    QTest::newRow("no integer") << 1 << QByteArray("Count") << "x" << false << "3"
+                                << "3";
+    QTest::newRow("integer refused") << 1 << QByteArray("Count") << "12" << true << "3"
+                                     << "3";
     // Typed in the unit shown, kilometres.
-    QTest::newRow("real") << 4 << QByteArray("Width/value") << "2.5" << false << "2.5" << "2500";
-    QTest::newRow("real refused") << 4 << QByteArray("Width/value") << "2.5" << true << "1.5" << "1500";
-    QTest::newRow("over varying") << 5 << QByteArray("Material") << "pine" << false << "pine" << "pine";
+    QTest::newRow("real") << 4 << QByteArray("Width/value") << "2.5" << false << "2.5"
+                          << "2500";
+    QTest::newRow("real refused") << 4 << QByteArray("Width/value") << "2.5" << true << "1.5"
+                                  << "1500";
+    QTest::newRow("over varying") << 5 << QByteArray("Material") << "pine" << false << "pine"
+                                  << "pine";
 }
 
 void tst_PropertyPanel::typing_writesBackAndRefusalsShowTheRealValue()
@@ -193,14 +199,15 @@ void tst_PropertyPanel::typing_writesBackAndRefusalsShowTheRealValue()
     const oa::Property& target = *m_properties[size_t(property)];
     if (refused) {
         m_properties[size_t(property)]->setCheck([](const V&) { return false; });
-        QTest::ignoreMessage(QtDebugMsg,
-                             qPrintable(QStringLiteral("Error setting property  \"%1\"  value").arg(QString(field).section('/', 0, 0))));
+        QTest::ignoreMessage(
+            QtDebugMsg,
+            qPrintable(QStringLiteral("Error setting property  \"%1\"  value").arg(QString(field).section('/', 0, 0))));
     }
     typeInto(field.constData(), typed);
     QCOMPARE(editor(field.constData())->property("text").toString(), shown);
     const V& value = target.storedValue();
     OdString text;
-    const QString written = value.get(text) ? qut::toQt(text)
+    const QString written = value.get(text)            ? qut::toQt(text)
                             : value.kind() == V::kReal ? QString::number(value.toReal())
                                                        : QString::number(value.toInteger());
     QCOMPARE(written, stored);

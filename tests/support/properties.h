@@ -17,7 +17,7 @@ OdSmartPtr<const oa::Attribute> attribute(Arguments&&... arguments)
 }
 
 inline std::unique_ptr<oa::Property> makeProperty(oa::PropertyType* type, tdx::PropertyValue value,
-                                              oa::AttributeCollection attributes = {})
+                                                  oa::AttributeCollection attributes = {})
 {
     return std::make_unique<oa::Property>("Global", "Name", type, std::move(value), std::move(attributes),
                                           "What it is");

@@ -14,8 +14,7 @@ struct FactoryFunction::Private
 
 FactoryFunction::FactoryFunction(Function function)
     : d(new Private{std::move(function)})
-{
-}
+{}
 
 FactoryFunction::~FactoryFunction() = default;
 

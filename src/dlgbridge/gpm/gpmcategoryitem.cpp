@@ -16,8 +16,7 @@ struct GPMCategoryItem::Private
 
 GPMCategoryItem::GPMCategoryItem(const oa::PropertyCategory& category)
     : d(new Private{category})
-{
-}
+{}
 
 GPMCategoryItem::~GPMCategoryItem() = default;
 

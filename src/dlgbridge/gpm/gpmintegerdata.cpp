@@ -8,8 +8,7 @@ DBR_GPM_DEFINE_RX_MEMBERS(GPMIntegerData, GPMPropertyDataBase, "GPMIntegerData")
 
 GPMIntegerData::GPMIntegerData(const oa::Property& property)
     : GPMPropertyDataBase(property)
-{
-}
+{}
 
 GPMIntegerData::~GPMIntegerData() = default;
 

@@ -28,8 +28,7 @@ struct GPMPropertyDataBase::Private
 
 GPMPropertyDataBase::GPMPropertyDataBase(const oa::Property& property)
     : d(new Private{property})
-{
-}
+{}
 
 const oa::Property& GPMPropertyDataBase::property() const
 {

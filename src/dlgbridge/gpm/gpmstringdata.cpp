@@ -10,8 +10,7 @@ DBR_GPM_DEFINE_RX_MEMBERS(GPMStringData, GPMPropertyDataBase, "GPMStringData")
 
 GPMStringData::GPMStringData(const oa::Property& property)
     : GPMPropertyDataBase(property)
-{
-}
+{}
 
 GPMStringData::~GPMStringData() = default;
 

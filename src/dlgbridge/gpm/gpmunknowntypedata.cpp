@@ -11,8 +11,7 @@ DBR_GPM_DEFINE_RX_MEMBERS(GPMUnknownTypeData, GPMPropertyDataBase, "GPMUnknownTy
 
 GPMUnknownTypeData::GPMUnknownTypeData(const oa::Property& property)
     : GPMPropertyDataBase(property)
-{
-}
+{}
 
 GPMUnknownTypeData::~GPMUnknownTypeData() = default;
 

@@ -75,37 +75,37 @@ inline void uninit(OdRxClass*& desc)
 
 } // namespace dbr::rx
 
-#define DBR_GPM_DEFINE_RX_MEMBERS(Class, Parent, Name)                                                             \
-    OdRxClass* Class::g_pDesc = nullptr;                                                                           \
-    OdRxClass* Class::desc()                                                                                       \
-    {                                                                                                              \
-        return g_pDesc;                                                                                            \
-    }                                                                                                              \
-    OdRxClass* Class::isA() const                                                                                  \
-    {                                                                                                              \
-        return g_pDesc;                                                                                            \
-    }                                                                                                              \
-    OdRxObject* Class::queryX(const OdRxClass* cls) const                                                          \
-    {                                                                                                              \
-        return rx::queryX<Parent>(this, cls, g_pDesc);                                                             \
-    }                                                                                                              \
-    AvSmartPtr<Class> Class::queryX(const OdRxObject* object)                                                      \
-    {                                                                                                              \
-        return rx::cast<Class>(object);                                                                            \
-    }                                                                                                              \
-    OdSmartPtr<Class> Class::createVirtualObject()                                                                 \
-    {                                                                                                              \
-        return rx::createVirtualObject<Class>();                                                                   \
-    }                                                                                                              \
-    void Class::rxInit()                                                                                           \
-    {                                                                                                              \
-        rx::init<Parent>(g_pDesc, Name, &Class::pseudoConstructor);                                                \
-    }                                                                                                              \
-    void Class::rxUninit()                                                                                         \
-    {                                                                                                              \
-        rx::uninit(g_pDesc);                                                                                       \
-    }                                                                                                              \
-    OdRxObjectPtr Class::pseudoConstructor()                                                                       \
-    {                                                                                                              \
-        return OdRxObjectPtr();                                                                                    \
+#define DBR_GPM_DEFINE_RX_MEMBERS(Class, Parent, Name)                                                                 \
+    OdRxClass* Class::g_pDesc = nullptr;                                                                               \
+    OdRxClass* Class::desc()                                                                                           \
+    {                                                                                                                  \
+        return g_pDesc;                                                                                                \
+    }                                                                                                                  \
+    OdRxClass* Class::isA() const                                                                                      \
+    {                                                                                                                  \
+        return g_pDesc;                                                                                                \
+    }                                                                                                                  \
+    OdRxObject* Class::queryX(const OdRxClass* cls) const                                                              \
+    {                                                                                                                  \
+        return rx::queryX<Parent>(this, cls, g_pDesc);                                                                 \
+    }                                                                                                                  \
+    AvSmartPtr<Class> Class::queryX(const OdRxObject* object)                                                          \
+    {                                                                                                                  \
+        return rx::cast<Class>(object);                                                                                \
+    }                                                                                                                  \
+    OdSmartPtr<Class> Class::createVirtualObject()                                                                     \
+    {                                                                                                                  \
+        return rx::createVirtualObject<Class>();                                                                       \
+    }                                                                                                                  \
+    void Class::rxInit()                                                                                               \
+    {                                                                                                                  \
+        rx::init<Parent>(g_pDesc, Name, &Class::pseudoConstructor);                                                    \
+    }                                                                                                                  \
+    void Class::rxUninit()                                                                                             \
+    {                                                                                                                  \
+        rx::uninit(g_pDesc);                                                                                           \
+    }                                                                                                                  \
+    OdRxObjectPtr Class::pseudoConstructor()                                                                           \
+    {                                                                                                                  \
+        return OdRxObjectPtr();                                                                                        \
     }

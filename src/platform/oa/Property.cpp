@@ -4,16 +4,15 @@
 
 namespace oa {
 
-Property::Property(const OdString& globalName, const OdString& localName, PropertyType* type,
-                   tdx::PropertyValue value, AttributeCollection attributes, const OdString& description)
+Property::Property(const OdString& globalName, const OdString& localName, PropertyType* type, tdx::PropertyValue value,
+                   AttributeCollection attributes, const OdString& description)
     : m_globalName(globalName)
     , m_localName(localName)
     , m_description(description)
     , m_type(type)
     , m_value(std::move(value))
     , m_attributes(std::move(attributes))
-{
-}
+{}
 
 Property::~Property() = default;
 
@@ -55,8 +54,7 @@ bool Property::isReadOnly(Object object) const
 PropertyCategory::PropertyCategory(const OdString& localName, unsigned int sortWeight)
     : m_localName(localName)
     , m_sortWeight(sortWeight)
-{
-}
+{}
 
 PropertyCategory::~PropertyCategory() = default;
 

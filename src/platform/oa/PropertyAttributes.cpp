@@ -20,15 +20,15 @@ using StaticClass = std::unique_ptr<OdRxClass, ClassDeleter>;
 
 } // namespace
 
-#define OA_ATTRIBUTE_CLASS(Class, Parent)                                                                          \
-    OdRxClass* Class::desc()                                                                                       \
-    {                                                                                                              \
-        static const StaticClass cls(newAvRxClass("oa::" #Class, Parent::desc(), nullptr));                        \
-        return cls.get();                                                                                          \
-    }                                                                                                              \
-    OdRxClass* Class::isA() const                                                                                  \
-    {                                                                                                              \
-        return desc();                                                                                             \
+#define OA_ATTRIBUTE_CLASS(Class, Parent)                                                                              \
+    OdRxClass* Class::desc()                                                                                           \
+    {                                                                                                                  \
+        static const StaticClass cls(newAvRxClass("oa::" #Class, Parent::desc(), nullptr));                            \
+        return cls.get();                                                                                              \
+    }                                                                                                                  \
+    OdRxClass* Class::isA() const                                                                                      \
+    {                                                                                                                  \
+        return desc();                                                                                                 \
     }
 
 OA_ATTRIBUTE_CLASS(Attribute, OdRxObject)
@@ -41,13 +41,11 @@ OA_ATTRIBUTE_CLASS(ReadOnlyAttribute, Attribute)
 BooleanValueAttribute::BooleanValueAttribute(const OdString& trueLabel, const OdString& falseLabel)
     : m_trueLabel(trueLabel)
     , m_falseLabel(falseLabel)
-{
-}
+{}
 
 EnumerationAttribute::EnumerationAttribute(Values values)
     : m_values(std::move(values))
-{
-}
+{}
 
 EnumerationAttribute::const_iterator EnumerationAttribute::value_find(const tdx::PropertyValue& value) const
 {
@@ -60,8 +58,7 @@ EnumerationAttribute::const_iterator EnumerationAttribute::value_find(const tdx:
 
 UnitsAttribute::UnitsAttribute(Units units)
     : m_units(std::move(units))
-{
-}
+{}
 
 OdString UnitsAttribute::displayName(const_iterator unit) const
 {

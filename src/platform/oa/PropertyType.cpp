@@ -30,8 +30,7 @@ OdString number(double value)
 
 PropertyType::PropertyType(const OdString& name)
     : m_name(name)
-{
-}
+{}
 
 PropertyType::~PropertyType() = default;
 
@@ -87,11 +86,11 @@ bool PropertyType::valueToString(OdString& out, const tdx::PropertyValue& value,
 
 namespace PropType {
 
-#define OA_PROPTYPE(Name)                                                                                          \
-    PropertyType* Name::getType()                                                                                  \
-    {                                                                                                              \
-        static PropertyType type(#Name);                                                                           \
-        return &type;                                                                                              \
+#define OA_PROPTYPE(Name)                                                                                              \
+    PropertyType* Name::getType()                                                                                      \
+    {                                                                                                                  \
+        static PropertyType type(#Name);                                                                               \
+        return &type;                                                                                                  \
     }
 
 OA_PROPTYPE(Angle)

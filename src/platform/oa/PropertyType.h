@@ -48,10 +48,10 @@ private:
 
 namespace PropType {
 
-#define OA_PROPTYPE(Name)                                                                                          \
-    struct Name                                                                                                    \
-    {                                                                                                              \
-        static PropertyType* getType();                                                                            \
+#define OA_PROPTYPE(Name)                                                                                              \
+    struct Name                                                                                                        \
+    {                                                                                                                  \
+        static PropertyType* getType();                                                                                \
     };
 
 OA_PROPTYPE(Angle)

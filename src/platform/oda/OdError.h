@@ -3,10 +3,7 @@
 #include <oda/OdString.h>
 
 // The SDK names its result codes; the library throws them by number.
-enum OdResult : int
-{
-    eOk = 0
-};
+enum OdResult : int { eOk = 0 };
 
 // Stand-in for the SDK's exception: a result code.
 class OdError

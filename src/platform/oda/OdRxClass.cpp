@@ -12,8 +12,7 @@ struct OdRxClass::Private
 
 OdRxClass::OdRxClass(const OdString& name, OdRxClass* parent, OdPseudoConstructorType constructor)
     : d(new Private{name, parent, constructor, {}})
-{
-}
+{}
 
 OdRxClass::~OdRxClass() = default;
 

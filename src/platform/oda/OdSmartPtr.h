@@ -4,10 +4,7 @@
 #include <utility>
 
 // Tells a smart pointer to take over a reference the caller already holds.
-enum OdRxObjMod
-{
-    kOdRxObjAttach
-};
+enum OdRxObjMod { kOdRxObjAttach };
 
 // Stand-in for the SDK's smart pointer to runtime objects: it holds one
 // reference of an object that counts its own (addRef and release).
@@ -29,18 +26,15 @@ public:
     {}
     OdSmartPtr(const OdSmartPtr& other)
         : OdSmartPtr(other.m_object)
-    {
-    }
+    {}
     OdSmartPtr(OdSmartPtr&& other) noexcept
         : m_object(std::exchange(other.m_object, nullptr))
-    {
-    }
+    {}
     // From a pointer to a derived class, or to the const form of the same.
     template<typename U, typename = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     OdSmartPtr(OdSmartPtr<U> other) noexcept
         : m_object(other.detach())
-    {
-    }
+    {}
     OdSmartPtr& operator=(OdSmartPtr other) noexcept
     {
         std::swap(m_object, other.m_object);
@@ -60,10 +54,7 @@ public:
 
     // Gives up the reference without releasing it: the caller owns it now.
     T* detach() { return std::exchange(m_object, nullptr); }
-    void release()
-    {
-        OdSmartPtr().swap(*this);
-    }
+    void release() { OdSmartPtr().swap(*this); }
     void swap(OdSmartPtr& other) noexcept { std::swap(m_object, other.m_object); }
 
 private:

@@ -18,25 +18,21 @@ std::uint64_t bitsOf(double value)
 
 PropertyValue::PropertyValue()
     : PropertyValue(kEmpty, 0, kNoValue)
-{
-}
+{}
 
 PropertyValue::PropertyValue(std::uint32_t kind, std::uint64_t payload, std::uint32_t flags)
     : m_kind(kind)
     , m_payload(payload)
     , m_flags(flags)
-{
-}
+{}
 
 PropertyValue::PropertyValue(bool value)
     : PropertyValue(kBoolean, value ? 1 : 0, kBooleanBits)
-{
-}
+{}
 
 PropertyValue::PropertyValue(double value)
     : PropertyValue(kReal, bitsOf(value), 0)
-{
-}
+{}
 
 PropertyValue::PropertyValue(const OdString& value)
     : PropertyValue(kString, 0, 0)
@@ -46,8 +42,7 @@ PropertyValue::PropertyValue(const OdString& value)
 
 PropertyValue::PropertyValue(const OdDbObjectId& value)
     : PropertyValue(kObjectId, value.handle(), 0)
-{
-}
+{}
 
 PropertyValue PropertyValue::fromInteger(std::int64_t value)
 {

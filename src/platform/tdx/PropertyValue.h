@@ -22,12 +22,7 @@ public:
         kColor = 5,
         kObjectId = 9
     };
-    enum Flags : std::uint32_t {
-        kNoValue = 1,
-        kVaries = 2,
-        kBooleanBits = 24,
-        kIntegerBits = 48
-    };
+    enum Flags : std::uint32_t { kNoValue = 1, kVaries = 2, kBooleanBits = 24, kIntegerBits = 48 };
 
     // No value of no kind.
     PropertyValue();
