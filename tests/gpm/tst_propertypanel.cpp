@@ -113,12 +113,16 @@ void tst_PropertyPanel::init()
     varies.setVaries();
     m_properties.push_back(named("Material", String::getType(), varies));
     m_properties.push_back(named("Position", Point::getType(), V(2.5)));
+    V mixed(true);
+    mixed.setVaries();
+    m_properties.push_back(
+        named("Visible", Boolean::getType(), mixed, {attribute<oa::BooleanValueAttribute>("Yes", "No")}));
 
     m_model = std::make_unique<quickhost::PropertyPanelModel>();
     new QAbstractItemModelTester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest, m_model.get());
     m_model->addCategory(m_general,
                          {m_properties[0].get(), m_properties[1].get(), m_properties[2].get(), m_properties[3].get()});
-    m_model->addCategory(m_other, {m_properties[6].get(), nullptr});
+    m_model->addCategory(m_other, {m_properties[7].get(), m_properties[6].get(), nullptr});
     m_model->addCategory(m_geometry, {m_properties[4].get(), m_properties[5].get()});
 
     m_qml = std::make_unique<QmlFixture>();
@@ -144,8 +148,8 @@ void tst_PropertyPanel::rows_comeByCategoryWeightWithTheirEditors()
         rows << m_model->index(row, 0).data(quickhost::PropertyPanelModel::CategoryRole).toString() + ": " +
                     m_model->item(row)->label();
     QCOMPARE(rows, QStringList({"Geometry: Width", "Geometry: Material", "General: Name", "General: Count",
-                                "General: Style", "General: Locked", "Other: Position"}));
-    QVERIFY(!m_model->item(7));
+                                "General: Style", "General: Locked", "Other: Visible", "Other: Position"}));
+    QVERIFY(!m_model->item(8));
     QVERIFY(!m_model->item(-1));
 
     QVERIFY(editor("Name")->inherits("QQuickTextField"));
@@ -155,6 +159,7 @@ void tst_PropertyPanel::rows_comeByCategoryWeightWithTheirEditors()
     QCOMPARE(editor("Width/units")->property("displayText").toString(), QStringLiteral("km"));
     QCOMPARE(editor("Material")->property("text").toString(), QStringLiteral("*Varies*"));
     QCOMPARE(editor("Position")->property("text").toString(), QStringLiteral("2.5"));
+    QCOMPARE(editor("Visible")->property("displayText").toString(), QStringLiteral("*Varies*"));
 }
 
 void tst_PropertyPanel::typing_writesBackAndRefusalsShowTheRealValue_data()
@@ -234,7 +239,15 @@ void tst_PropertyPanel::choices_writeTheRowPicked()
     QCOMPARE(m_properties[2]->storedValue(), V::fromInteger(3));
     QCOMPARE(style->property("displayText").toString(), QStringLiteral("Dotted"));
 
+    // A choice over a varying selection ends the variation.
+    QQuickItem* visible = editor("Visible");
+    visible->forceActiveFocus();
+    QTest::keyClick(visible->window(), Qt::Key_Down);
+    QCOMPARE(m_properties[7]->storedValue(), V(true));
+    QCOMPARE(visible->property("displayText").toString(), QStringLiteral("Yes"));
+
     // A refused choice goes back to the row the property holds.
+    style->forceActiveFocus();
     m_properties[2]->setCheck([](const V&) { return false; });
     QTest::ignoreMessage(QtDebugMsg, "Error setting property  \"Style\"  value");
     QTest::keyClick(style->window(), Qt::Key_Up);
