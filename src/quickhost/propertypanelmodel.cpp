@@ -65,8 +65,10 @@ void PropertyPanelModel::addCategory(const oa::PropertyCategory& category,
 
 void PropertyPanelModel::clear()
 {
+    // The items go after the views have let go of their rows.
+    std::vector<Row> gone;
     beginResetModel();
-    d->rows.clear();
+    gone.swap(d->rows);
     endResetModel();
 }
 

@@ -2,10 +2,12 @@
 #include <dlgbridge/gpm/gpmtreedatafactory.h>
 #include <quickhost/propertypanelmodel.h>
 #include <support/itemwindow.h>
+#include <support/logrecorder.h>
 #include <support/properties.h>
 #include <support/qmlfixture.h>
 
 #include <QAbstractItemModelTester>
+#include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -66,6 +68,7 @@ private Q_SLOTS:
     void units_switchTheShownNumber();
     void choices_writeTheRowPicked();
     void readOnlyRows_takeNoInput();
+    void clearing_dropsItemsTheEditorsStillShow();
 
 private:
     QQuickItem* editor(const char* name) const { return findItem(m_panel, QString::fromLatin1(name)); }
@@ -267,6 +270,17 @@ void tst_PropertyPanel::readOnlyRows_takeNoInput()
     OdString text;
     QVERIFY(m_properties[3]->storedValue().get(text));
     QCOMPARE(qut::toQt(text), QStringLiteral("fixed"));
+}
+
+void tst_PropertyPanel::clearing_dropsItemsTheEditorsStillShow()
+{
+    QPointer<QQuickItem> name = editor("Name");
+    const LogRecorder log;
+    m_model->clear();
+    QTRY_VERIFY(!name);
+    QCoreApplication::processEvents();
+    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(m_panel->property("count").toInt(), 0);
 }
 
 QTEST_MAIN(tst_PropertyPanel)

@@ -1,11 +1,11 @@
 #include "gpmbooleandata.h"
 
 #include "attributes_p.h"
+#include "listmodel_p.h"
 #include "rxmembers_p.h"
 
 #include <oa/Property.h>
 #include <qut/qtconversions.h>
-#include <qut/stringlistmodel.h>
 
 namespace dbr {
 
@@ -15,12 +15,12 @@ struct GPMBooleanData::Private
 {
     int currentIndex = -1;
     AvSmartPtr<const oa::BooleanValueAttribute> attribute;
-    mutable qut::StringListModel model;
+    qut::StringListModel* model;
 };
 
 GPMBooleanData::GPMBooleanData(const oa::Property& property)
     : GPMPropertyDataBase(property)
-    , d(new Private{-1, attributeOf<oa::BooleanValueAttribute>(property), {}})
+    , d(new Private{-1, attributeOf<oa::BooleanValueAttribute>(property), newChildListModel(*this)})
 {
     tdx::PropertyValue value;
     if (!d->attribute || !readValue(value, false))
@@ -30,7 +30,7 @@ GPMBooleanData::GPMBooleanData(const oa::Property& property)
     const bool allowsNoValue = valueAttribute && valueAttribute->allowsNoValue;
     if (allowsNoValue)
         labels.push_back(gpmNoValueText());
-    d->model.reset(std::move(labels));
+    d->model->reset(std::move(labels));
     if (value.flags() & tdx::PropertyValue::kVaries)
         return;
     // Logged for an ordinary no-value state too: the typed read failed.
@@ -54,7 +54,7 @@ QUrl GPMBooleanData::componentUrl() const
 
 QAbstractListModel* GPMBooleanData::enumerationModel() const
 {
-    return &d->model;
+    return d->model;
 }
 
 int GPMBooleanData::initialCurrentIndex() const

@@ -1,13 +1,13 @@
 #include "gpmenumerationdata.h"
 
 #include "attributes_p.h"
+#include "listmodel_p.h"
 #include "rxmembers_p.h"
 
 #include <QDebug>
 
 #include <oa/Property.h>
 #include <qut/qtconversions.h>
-#include <qut/stringlistmodel.h>
 
 #include <iterator>
 
@@ -19,7 +19,7 @@ struct GPMEnumerationData::Private
 {
     int currentIndex = -1;
     AvSmartPtr<const oa::EnumerationAttribute> attribute;
-    mutable qut::StringListModel model;
+    qut::StringListModel* model;
 };
 
 GPMEnumerationData::GPMEnumerationData(const oa::Property& property)
@@ -32,7 +32,7 @@ GPMEnumerationData::GPMEnumerationData(const oa::Property& property)
 GPMEnumerationData::GPMEnumerationData(const oa::Property& property,
                                        AvSmartPtr<const oa::EnumerationAttribute> attribute)
     : GPMPropertyDataBase(property)
-    , d(new Private{-1, std::move(attribute), {}})
+    , d(new Private{-1, std::move(attribute), newChildListModel(*this)})
 {
     tdx::PropertyValue value;
     if (!d->attribute || !readValue(value, false))
@@ -45,7 +45,7 @@ GPMEnumerationData::GPMEnumerationData(const oa::Property& property,
     const bool allowsNoValue = valueAttribute && valueAttribute->allowsNoValue;
     if (allowsNoValue)
         labels.push_back(gpmNoValueText());
-    d->model.reset(std::move(labels));
+    d->model->reset(std::move(labels));
     if (value.flags() & tdx::PropertyValue::kVaries)
         return;
     // A value not in the list lands on the "*NoValue*" row, which stands just past the labels.
@@ -68,7 +68,7 @@ QUrl GPMEnumerationData::componentUrl() const
 
 QAbstractListModel* GPMEnumerationData::enumerationModel() const
 {
-    return &d->model;
+    return d->model;
 }
 
 int GPMEnumerationData::initialCurrentIndex() const

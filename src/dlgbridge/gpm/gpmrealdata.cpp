@@ -1,11 +1,11 @@
 #include "gpmrealdata.h"
 
 #include "attributes_p.h"
+#include "listmodel_p.h"
 #include "rxmembers_p.h"
 
 #include <oa/Property.h>
 #include <qut/qtconversions.h>
-#include <qut/stringlistmodel.h>
 
 #include <iterator>
 
@@ -17,7 +17,7 @@ struct GPMRealData::Private
 {
     AvSmartPtr<const oa::UnitsAttribute> units;
     int unitsIndex = 0;
-    mutable qut::StringListModel model;
+    qut::StringListModel* model;
 
     // The chosen unit; the best one for the number when the index names none.
     oa::UnitsAttribute::const_iterator unit(double number) const
@@ -31,7 +31,7 @@ struct GPMRealData::Private
 
 GPMRealData::GPMRealData(const oa::Property& property)
     : GPMPropertyDataBase(property)
-    , d(new Private{attributeOf<oa::UnitsAttribute>(property), 0, {}})
+    , d(new Private{attributeOf<oa::UnitsAttribute>(property), 0, newChildListModel(*this)})
 {
     if (!d->units)
         return;
@@ -41,7 +41,7 @@ GPMRealData::GPMRealData(const oa::Property& property)
     std::vector<QString> names;
     for (auto it = d->units->units().cbegin(); it != d->units->units().cend(); ++it)
         names.push_back(qut::toQt(d->units->displayName(it)));
-    d->model.reset(std::move(names));
+    d->model->reset(std::move(names));
 }
 
 GPMRealData::~GPMRealData() = default;
@@ -94,7 +94,7 @@ bool GPMRealData::hasUnits() const
 
 QAbstractListModel* GPMRealData::unitsModel() const
 {
-    return &d->model;
+    return d->model;
 }
 
 int GPMRealData::unitsIndex() const
