@@ -1,3 +1,4 @@
+#include <dlgbridge/gpm/factoryfunction.h>
 #include <dlgbridge/gpm/gpmtreedata.h>
 #include <dlgbridge/gpm/gpmtreedatafactory.h>
 #include <quickhost/propertypanelmodel.h>
@@ -8,6 +9,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QPointer>
+#include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -69,6 +71,8 @@ private Q_SLOTS:
     void choices_writeTheRowPicked();
     void readOnlyRows_takeNoInput();
     void clearing_dropsItemsTheEditorsStillShow();
+    void editors_outliveTheirItem_data();
+    void editors_outliveTheirItem();
 
 private:
     QQuickItem* editor(const char* name) const { return findItem(m_panel, QString::fromLatin1(name)); }
@@ -281,6 +285,37 @@ void tst_PropertyPanel::clearing_dropsItemsTheEditorsStillShow()
     QCoreApplication::processEvents();
     QCOMPARE(log.lines(), QStringList());
     QCOMPARE(m_panel->property("count").toInt(), 0);
+}
+
+void tst_PropertyPanel::editors_outliveTheirItem_data()
+{
+    QTest::addColumn<int>("property");
+    QTest::newRow("string") << 0;
+    QTest::newRow("integer") << 1;
+    QTest::newRow("enumeration") << 2;
+    QTest::newRow("real with units") << 4;
+    QTest::newRow("boolean") << 7;
+}
+
+// An editor shown outside the panel, whose item goes first: it shows nothing then.
+void tst_PropertyPanel::editors_outliveTheirItem()
+{
+    QFETCH(int, property);
+
+    const oa::Property& source = *m_properties[size_t(property)];
+    AvSmartPtr<GPMTreeData> item = FactoryFunction::queryX(source.type())->create(source);
+    QQmlComponent component(&m_qml->engine(), item->componentUrl());
+    std::unique_ptr<QObject> editor(
+        component.createWithInitialProperties({{"itemData", QVariant::fromValue<QObject*>(item.get())}}));
+    QVERIFY2(editor, qPrintable(component.errorString()));
+    auto* shown = qobject_cast<QQuickItem*>(editor.get());
+    shown->setParentItem(m_panel);
+
+    const LogRecorder log;
+    item = AvSmartPtr<GPMTreeData>();
+    QCoreApplication::processEvents();
+    QVERIFY(!editor->property("itemData").value<QObject*>());
+    QCOMPARE(log.lines(), QStringList());
 }
 
 QTEST_MAIN(tst_PropertyPanel)
