@@ -4,6 +4,7 @@
 #include "drawinglistsample.h"
 #include "layertreesample.h"
 #include "printsample.h"
+#include "propertiessample.h"
 
 const std::vector<SampleEntry>& gallerySamples()
 {
@@ -16,6 +17,8 @@ const std::vector<SampleEntry>& gallerySamples()
          [] { return std::make_unique<DrawingListSample>(); }},
         {"command", "a drawing command with its options in a command context dialog beside the command line",
          [] { return std::make_unique<CommandSample>(); }},
+        {"properties", "a property panel: texts, numbers with units and choices edited through their property items",
+         [] { return std::make_unique<PropertiesSample>(); }},
     };
     return samples;
 }

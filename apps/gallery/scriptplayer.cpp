@@ -64,6 +64,9 @@ QObject* ScriptPlayer::object(const char* name) const
 {
     QObject* root = m_root();
     QObject* found = root ? root->findChild<QObject*>(QLatin1String(name)) : nullptr;
+    // A view's delegates belong to its model: they are found in the item tree only.
+    if (!found && qobject_cast<QQuickItem*>(root))
+        found = findVisualItem(static_cast<QQuickItem*>(root), QLatin1String(name));
     if (!found)
         qWarning() << "The script found no item" << name;
     return found;

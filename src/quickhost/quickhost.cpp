@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <qut/qmlurl.h>
+
 #include <dlfcn.h>
 
 namespace dbr::quickhost {
@@ -36,6 +38,9 @@ QuickHost::QuickHost(const QStringList& importPaths)
         m_engine.addImportPath(installed);
     for (const QString& path : importPaths)
         m_engine.addImportPath(path);
+    // Property items address their editors by file, in the kit this engine imports.
+    for (const QString& path : m_engine.importPathList())
+        qut::addQmlImportDirectory(path);
     oa::OaApp::s_app = &m_app;
 }
 

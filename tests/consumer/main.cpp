@@ -2,10 +2,13 @@
 // GUI test does: a click on the check box, a click on OK, and the dialog code
 // must have read the check. Exits with 0 only then.
 #include <dlgbridge/controls/qwxcheckbox.h>
+#include <dlgbridge/gpm/gpmtreedata.h>
 #include <dlgbridge/hosting/qwxdialog.h>
 #include <quickhost/quickhost.h>
 
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -70,5 +73,12 @@ int main(int argc, char** argv)
 
     const int code = dbr::ShowModal(&dialog);
     std::printf("ShowModal returned %d, check box read as %s\n", code, dialog.agreed ? "checked" : "unchecked");
-    return code == wxID_OK && dialog.agreed ? 0 : 1;
+
+    // Property items name their editors in the installed module.
+    const QUrl editor = dbr::GPMTreeData::gpmComponentUrl(QStringLiteral("RealType.qml"));
+    QQmlComponent component(&host.engine(), editor);
+    const bool editorLoads = QFileInfo::exists(editor.toLocalFile()) && component.isReady();
+    std::printf("The real number editor %s: %s\n", editorLoads ? "loads" : "does not load",
+                qPrintable(editor.toLocalFile()));
+    return code == wxID_OK && dialog.agreed && editorLoads ? 0 : 1;
 }

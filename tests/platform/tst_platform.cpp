@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include <qut/qtconversions.h>
+#include <ut/UUID.h>
 #include <wut/guicolor.h>
 
 class tst_Platform : public QObject
@@ -13,6 +14,7 @@ private Q_SLOTS:
     void strings_surviveEveryConversion();
     void colours_convertWithAlpha();
     void guiColours_areThemeColours();
+    void uuids_surviveTheirText();
 };
 
 void tst_Platform::strings_surviveEveryConversion_data()
@@ -56,6 +58,18 @@ void tst_Platform::guiColours_areThemeColours()
     QVERIFY(text.IsOk());
     // Text must stand out from the background it is drawn on.
     QVERIFY(qAbs(qut::toQt(background).lightness() - qut::toQt(text).lightness()) > 128);
+}
+
+void tst_Platform::uuids_surviveTheirText()
+{
+    // Property items announce their writes by the property's GUID as text.
+    const ut::UUID uuid = ut::UUID::generate();
+    QVERIFY(!uuid.isNull());
+    QVERIFY(uuid != ut::UUID::generate());
+    const OdString text = uuid;
+    QVERIFY(qut::toQt(text).startsWith(QLatin1Char('{')));
+    QCOMPARE(ut::UUID(text), uuid);
+    QVERIFY(ut::UUID(OdString("no identifier")).isNull());
 }
 
 QTEST_MAIN(tst_Platform)

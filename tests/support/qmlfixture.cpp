@@ -6,11 +6,14 @@
 #include <QQmlComponent>
 #include <QUrl>
 
+#include <qut/qmlurl.h>
+
 namespace dbr::test {
 
 QmlFixture::QmlFixture()
 {
     m_engine.addImportPath(qmlImportDir());
+    qut::addQmlImportDirectory(qmlImportDir());
 }
 
 QmlFixture::~QmlFixture()
