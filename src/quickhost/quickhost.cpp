@@ -36,6 +36,8 @@ QuickHost::QuickHost(const QStringList& importPaths)
         m_engine.addImportPath(installed);
     for (const QString& path : importPaths)
         m_engine.addImportPath(path);
+    m_documents.createDocument("Drawing1", OdDbDatabase::createObject());
+    m_app.setDocManager(&m_documents);
     oa::OaApp::s_app = &m_app;
 }
 

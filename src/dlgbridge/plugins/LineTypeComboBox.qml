@@ -1,0 +1,104 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15 as Controls
+import QtQuick.Layouts 1.15
+import Arvela.Components 1.0 as Kit
+
+// A combo of a drawing's line types. The wrapper sets "model" to the dialog's
+// LineTypeModel, whose rows come in the role "object": a name and a preview
+// drawn by the host at the size shown ("*Varies*" and "Load..." have none).
+// Picking "Load..." opens the line type loader and ends on the line type loaded,
+// or back on the row chosen before. The selection is this item's currentIndex;
+// when the model's rows are rebuilt it stays on the line type it showed.
+Controls.ComboBox {
+    id: combo
+
+    readonly property string qmlType: "LineTypeComboBox"
+    // The line type chosen last, kept by name through rebuilt rows.
+    property string chosenName
+
+    signal keyPressed(int key, int modifiers, string text)
+    signal keyReleased(int key, int modifiers, string text)
+
+    function rowObject(row) {
+        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) : null
+    }
+
+    implicitWidth: 220
+    textRole: ""
+    // Counted up when the model's rows are rebuilt, so that the row shown is read anew.
+    property int rebuilds: 0
+    readonly property var currentObject: count >= 0 && rebuilds >= 0 ? rowObject(currentIndex) : null
+    displayText: currentObject ? currentObject.lineTypeName : ""
+
+    onCurrentIndexChanged: {
+        if (currentIndex !== count - 1)
+            chosenName = currentObject ? currentObject.lineTypeName : ""
+    }
+    onActivated: {
+        if (!model || index !== count - 1)
+            return
+        // The model's own current row becomes this combo's first, so that a
+        // cancel comes back to it.
+        var before = chosenName ? model.getIndexFromLocalName(chosenName) : -1
+        model.setCurrentIndexOrLoad(before)
+        model.setCurrentIndexOrLoad(index)
+        currentIndex = model.currentIndex
+    }
+    Keys.onPressed: combo.keyPressed(event.key, event.modifiers, event.text)
+    Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)
+
+    Connections {
+        target: combo.model
+        ignoreUnknownSignals: true
+        function onModelReset() {
+            ++combo.rebuilds
+            if (combo.chosenName)
+                combo.currentIndex = combo.model.getIndexFromLocalName(combo.chosenName)
+        }
+    }
+
+    component Preview: Kit.ImageCanvas {
+        property QtObject row
+        Binding on image {
+            when: !!row && width >= 1 && height >= 1
+            value: row ? row.lineTypePreview(Math.round(width), Math.round(height)) : undefined
+        }
+    }
+
+    contentItem: RowLayout {
+        spacing: 6
+        Text {
+            Layout.leftMargin: 8
+            Layout.preferredWidth: 90
+            text: combo.displayText
+            font: combo.font
+            elide: Text.ElideRight
+            verticalAlignment: Text.AlignVCenter
+        }
+        Preview {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 10
+            Layout.rightMargin: 4
+            row: combo.currentObject
+        }
+    }
+
+    delegate: Controls.ItemDelegate {
+        objectName: "lineTypeRow" + index
+        width: combo.popup.width
+        highlighted: combo.highlightedIndex === index
+        contentItem: RowLayout {
+            spacing: 6
+            Text {
+                Layout.preferredWidth: 90
+                text: object ? object.lineTypeName : ""
+                elide: Text.ElideRight
+            }
+            Preview {
+                Layout.fillWidth: true
+                Layout.preferredHeight: 10
+                row: object
+            }
+        }
+    }
+}

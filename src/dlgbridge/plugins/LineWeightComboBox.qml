@@ -1,0 +1,62 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15 as Controls
+import QtQuick.Layouts 1.15
+
+// A combo of line weights over a LineWeightModel, whose rows come in the role
+// "object": each is drawn as a bar as thick as its factor says, beside its name.
+// The combo shows the model's current row, and a pick goes to the model.
+Controls.ComboBox {
+    id: combo
+
+    readonly property string qmlType: "LineWeightComboBox"
+    // The thickest weight's bar, in pixels.
+    property int maximumThickness: 8
+
+    signal keyPressed(int key, int modifiers, string text)
+    signal keyReleased(int key, int modifiers, string text)
+
+    function rowObject(row) {
+        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) : null
+    }
+
+    implicitWidth: 180
+    textRole: ""
+    currentIndex: model ? model.currentIndex : -1
+    readonly property var currentObject: count >= 0 ? rowObject(currentIndex) : null
+    displayText: currentObject ? currentObject.lineWeightName : ""
+
+    onActivated: {
+        if (model)
+            model.onChangeCurrentComboIndex(index)
+    }
+    Keys.onPressed: combo.keyPressed(event.key, event.modifiers, event.text)
+    Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)
+
+    component Weight: RowLayout {
+        property QtObject row
+        spacing: 6
+        Rectangle {
+            Layout.preferredWidth: 40
+            Layout.preferredHeight: row ? Math.max(1, Math.round(row.lineWeightFactor * combo.maximumThickness)) : 0
+            Layout.alignment: Qt.AlignVCenter
+            color: "#202020"
+        }
+        Text {
+            Layout.fillWidth: true
+            text: row ? row.lineWeightName : ""
+            elide: Text.ElideRight
+        }
+    }
+
+    contentItem: Weight {
+        row: combo.currentObject
+        Layout.leftMargin: 8
+    }
+
+    delegate: Controls.ItemDelegate {
+        objectName: "lineWeightRow" + index
+        width: combo.popup.width
+        highlighted: combo.highlightedIndex === index
+        contentItem: Weight { row: object }
+    }
+}
