@@ -20,7 +20,7 @@ Controls.ComboBox {
     signal keyReleased(int key, int modifiers, string text)
 
     function rowObject(row) {
-        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) : null
+        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) || null : null
     }
     function rowText(row) {
         if (!row)
@@ -54,7 +54,7 @@ Controls.ComboBox {
     Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)
 
     Connections {
-        target: combo.model
+        target: typeof combo.model === "object" ? combo.model : null
         ignoreUnknownSignals: true
         function onModelReset() { ++combo.rebuilds }
         function onByLayerColorChanged() { ++combo.rebuilds }

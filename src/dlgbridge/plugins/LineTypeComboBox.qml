@@ -15,12 +15,14 @@ Controls.ComboBox {
     readonly property string qmlType: "LineTypeComboBox"
     // The line type chosen last, kept by name through rebuilt rows.
     property string chosenName
+    // chosenName as it was before the rows went, to be found again once they are back.
+    property string nameBeforeReset
 
     signal keyPressed(int key, int modifiers, string text)
     signal keyReleased(int key, int modifiers, string text)
 
     function rowObject(row) {
-        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) : null
+        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) || null : null
     }
 
     implicitWidth: 220
@@ -31,9 +33,20 @@ Controls.ComboBox {
     displayText: currentObject ? currentObject.lineTypeName : ""
 
     onCurrentIndexChanged: {
-        if (currentIndex !== count - 1)
-            chosenName = currentObject ? currentObject.lineTypeName : ""
+        // Rows rebuilt empty, as while no drawing is open, keep the name for later.
+        var row = currentIndex !== count - 1 ? rowObject(currentIndex) : null
+        if (row)
+            chosenName = row.lineTypeName
     }
+    // The combo takes in the new count after the model's reset, and then picks a
+    // row of its own; the name is found again after that.
+    function findNameBeforeReset() {
+        if (!nameBeforeReset || count === 0 || count !== model.rowCount())
+            return
+        currentIndex = model.getIndexFromLocalName(nameBeforeReset)
+        nameBeforeReset = ""
+    }
+    onCountChanged: findNameBeforeReset()
     onActivated: {
         if (!model || index !== count - 1)
             return
@@ -48,21 +61,29 @@ Controls.ComboBox {
     Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)
 
     Connections {
-        target: combo.model
+        target: typeof combo.model === "object" ? combo.model : null
         ignoreUnknownSignals: true
+        function onModelAboutToBeReset() {
+            combo.nameBeforeReset = combo.chosenName
+        }
         function onModelReset() {
             ++combo.rebuilds
-            if (combo.chosenName)
-                combo.currentIndex = combo.model.getIndexFromLocalName(combo.chosenName)
+            combo.findNameBeforeReset()
         }
     }
 
+    // The row's preview at the size shown, asked again when either changes.
     component Preview: Kit.ImageCanvas {
         property QtObject row
-        Binding on image {
-            when: !!row && width >= 1 && height >= 1
-            value: row ? row.lineTypePreview(Math.round(width), Math.round(height)) : undefined
+        function refresh() {
+            if (row && width >= 1 && height >= 1)
+                image = row.lineTypePreview(Math.round(width), Math.round(height))
         }
+        visible: !!row
+        onRowChanged: refresh()
+        onWidthChanged: refresh()
+        onHeightChanged: refresh()
+        Component.onCompleted: refresh()
     }
 
     contentItem: RowLayout {

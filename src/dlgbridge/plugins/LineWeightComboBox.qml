@@ -16,7 +16,7 @@ Controls.ComboBox {
     signal keyReleased(int key, int modifiers, string text)
 
     function rowObject(row) {
-        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) : null
+        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) || null : null
     }
 
     implicitWidth: 180
