@@ -1,5 +1,7 @@
 #pragma once
 
+#include <quickhost/quickhost_export.h>
+
 #include <QList>
 #include <QString>
 
@@ -21,9 +23,9 @@ struct LineTypeDefinition
 // The definitions of a line type definition file: "*NAME,description" then
 // "A,dash,gap,...". Comments (";;") and blank lines are skipped, and so is a
 // definition whose pattern doesn't read as numbers.
-QList<LineTypeDefinition> readLineTypeDefinitions(QIODevice& file);
+DLGBRIDGE_QUICKHOST_EXPORT QList<LineTypeDefinition> readLineTypeDefinitions(QIODevice& file);
 
 // The definitions of the file quickhost ships.
-const QList<LineTypeDefinition>& shippedLineTypes();
+DLGBRIDGE_QUICKHOST_EXPORT const QList<LineTypeDefinition>& shippedLineTypes();
 
 } // namespace dbr::quickhost
