@@ -8,6 +8,7 @@
 #include <dlgbridge/cadmodels/lineweightmodel.h>
 #include <dlgbridge/cadmodels/qwxcolorcombobox.h>
 #include <dlgbridge/cadmodels/qwxlinetypecombobox.h>
+#include <dlgbridge/core/qmlchildlist.h>
 #include <dlgbridge/core/qtcontrolmodels.h>
 
 #include <quickhost/quickhost.h>
@@ -22,6 +23,7 @@
 
 #include <ca/CaApp.h>
 #include <oda/OdDbDatabase.h>
+#include <qut/qtconversions.h>
 
 #include <functional>
 #include <memory>
@@ -92,6 +94,7 @@ private Q_SLOTS:
     void refusedColour_isNotAdded();
     void lineTypeLoadRow_byKey_loadsAndShowsTheLineType();
     void lineTypeLoaderCancelled_goesBackToTheLineTypeShown();
+    void lineTypeLoadRow_fromThePopup_announcesOnlyTheLineTypeLoaded();
     void lineTypeCombos_followTheCurrentDocument();
     void lineWeightCombo_tellsItsModel();
     void models_dieAfterTheItemsLetGo();
@@ -280,6 +283,31 @@ void tst_CadCombos::lineTypeLoaderCancelled_goesBackToTheLineTypeShown()
         QCOMPARE(lineType->getLinetype(), hidden);
         QCOMPARE(countOf(dialog.item("lineType")), 3);
     });
+}
+
+void tst_CadCombos::lineTypeLoadRow_fromThePopup_announcesOnlyTheLineTypeLoaded()
+{
+    m_host->dialogFactory().setupLineTypeLoaderFaker([](const QStringList&) { return QStringList{"PHANTOM"}; });
+    QStringList heard;
+    TestDialog dialog;
+    QVERIFY(wut::doLoadDialog(&dialog, nullptr, testDataUrl(QStringLiteral("cadcombos.qml")), NotResizable, {},
+                              nullptr));
+    dialog.bind = [&heard, &dialog](QmlChildList& list) {
+        list.connectToChoiceEvent("lineType", [&heard, &dialog](qwxCommandEvent&) {
+            const OdDbSymbolTableRecordPtr record = OdDbSymbolTableRecord::cast(
+                dynamic_cast<qwxLineTypeComboBox*>(dialog.FindWindow("lineType"))->getLinetype().openObject());
+            heard.append(record ? qut::toQt(record->getName()) : QStringLiteral("none"));
+        });
+    };
+    dialog.script = [&heard](TestDialog& shown) {
+        if (shown.waitForExposed()) {
+            pickRow(shown.item("lineType"), QStringLiteral("lineTypeRow2"));
+            QTRY_COMPARE(heard, QStringList{"PHANTOM"});
+            QCOMPARE(currentIndexOf(shown.item("lineType")), 2);
+        }
+        EndModal(&shown, wxID_OK);
+    };
+    QCOMPARE(ShowModal(&dialog), wxID_OK);
 }
 
 void tst_CadCombos::lineTypeCombos_followTheCurrentDocument()

@@ -47,15 +47,30 @@ Controls.ComboBox {
         nameBeforeReset = ""
     }
     onCountChanged: findNameBeforeReset()
-    onActivated: {
-        if (!model || index !== count - 1)
-            return
+    // Runs the loader from the load row and shows the row it ends on.
+    function load() {
         // The model's own current row becomes this combo's first, so that a
         // cancel comes back to it.
         var before = chosenName ? model.getIndexFromLocalName(chosenName) : -1
         model.setCurrentIndexOrLoad(before)
-        model.setCurrentIndexOrLoad(index)
+        model.setCurrentIndexOrLoad(count - 1)
         currentIndex = model.currentIndex
+    }
+    // The load row of the pop-up: the loader rebuilds the rows, so it mustn't
+    // run while the row that was clicked is still handling its click. The pick
+    // is announced once the loader is done.
+    function loadFromPopup() {
+        popup.close()
+        Qt.callLater(function() {
+            if (!model || count === 0)
+                return
+            load()
+            activated(currentIndex)
+        })
+    }
+    onActivated: {
+        if (model && count > 0 && index === count - 1)
+            load()
     }
     Keys.onPressed: combo.keyPressed(event.key, event.modifiers, event.text)
     Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)
@@ -90,7 +105,7 @@ Controls.ComboBox {
         spacing: 6
         Text {
             Layout.leftMargin: 8
-            Layout.preferredWidth: 90
+            Layout.preferredWidth: 110
             text: combo.displayText
             font: combo.font
             elide: Text.ElideRight
@@ -108,10 +123,15 @@ Controls.ComboBox {
         objectName: "lineTypeRow" + index
         width: combo.popup.width
         highlighted: combo.highlightedIndex === index
+        MouseArea {
+            anchors.fill: parent
+            enabled: index === combo.count - 1
+            onClicked: combo.loadFromPopup()
+        }
         contentItem: RowLayout {
             spacing: 6
             Text {
-                Layout.preferredWidth: 90
+                Layout.preferredWidth: 110
                 text: object ? object.lineTypeName : ""
                 elide: Text.ElideRight
             }

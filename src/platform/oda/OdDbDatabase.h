@@ -2,6 +2,7 @@
 
 #include <oda/OdArray.h>
 #include <oda/OdCmColor.h>
+#include <oda/OdDb.h>
 #include <oda/OdDbObjectId.h>
 #include <oda/OdRxObject.h>
 #include <oda/OdSmartPtr.h>
@@ -85,7 +86,7 @@ private:
 };
 using OdDbLinetypeTableRecordPtr = OdSmartPtr<OdDbLinetypeTableRecord>;
 
-// A layer, with its colour and the colours it has in single viewports.
+// A layer: its colour, the colours it has in single viewports, its line type and line weight.
 class OdDbLayerTableRecord : public OdDbSymbolTableRecord
 {
 public:
@@ -99,10 +100,13 @@ public:
     void setColor(const OdCmColor& color, const OdDbObjectId& viewportId);
     OdDbObjectId linetypeObjectId() const { return m_linetype; }
     void setLinetypeObjectId(const OdDbObjectId& linetype) { m_linetype = linetype; }
+    OdDb::LineWeight lineWeight() const { return m_lineWeight; }
+    void setLineWeight(OdDb::LineWeight weight) { m_lineWeight = weight; }
 
 private:
     OdCmColor m_color;
     OdDbObjectId m_linetype;
+    OdDb::LineWeight m_lineWeight = OdDb::kLnWtByLwDefault;
     std::map<OdDbObjectId, OdCmColor> m_viewportColors;
 };
 using OdDbLayerTableRecordPtr = OdSmartPtr<OdDbLayerTableRecord>;
