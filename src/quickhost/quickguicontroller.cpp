@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <iterator>
 
 namespace dbr::quickhost {
@@ -109,20 +110,26 @@ OdString nameOf(const OdDbObjectId& id)
     return record ? record->getName() : OdString();
 }
 
-// The wx image of a Qt image, with its alpha.
+// The wx image of a Qt image, with its alpha, filled through its buffers.
 wxImage toWxImage(const QImage& source)
 {
     const QImage image = source.convertToFormat(QImage::Format_ARGB32);
-    wxImage result(image.width(), image.height(), false);
-    result.InitAlpha();
-    for (int y = 0; y < image.height(); ++y) {
+    const int width = image.width();
+    const int height = image.height();
+    // wxImage takes both buffers, and frees them with free().
+    auto* rgb = static_cast<unsigned char*>(malloc(size_t(width) * size_t(height) * 3));
+    auto* alpha = static_cast<unsigned char*>(malloc(size_t(width) * size_t(height)));
+    for (int y = 0; y < height; ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            result.SetRGB(x, y, uchar(qRed(line[x])), uchar(qGreen(line[x])), uchar(qBlue(line[x])));
-            result.SetAlpha(x, y, uchar(qAlpha(line[x])));
+        for (int x = 0; x < width; ++x) {
+            const size_t pixel = size_t(y) * size_t(width) + size_t(x);
+            rgb[3 * pixel] = uchar(qRed(line[x]));
+            rgb[3 * pixel + 1] = uchar(qGreen(line[x]));
+            rgb[3 * pixel + 2] = uchar(qBlue(line[x]));
+            alpha[pixel] = uchar(qAlpha(line[x]));
         }
     }
-    return result;
+    return wxImage(width, height, rgb, alpha);
 }
 
 void paintPattern(QPainter& painter, const OdDbLinetypeTableRecord& lineType, const QRectF& area)
