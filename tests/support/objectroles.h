@@ -28,11 +28,15 @@ public:
     }
 };
 
-// A tester for one of the CAD value models, living as long as the model.
-inline void attachModelTester(QAbstractItemModel& model)
+// A tester for one of the CAD value models, living as long as the model; a
+// model that has one gets no second.
+inline void attachModelTester(QAbstractItemModel& model, QAbstractItemModelTester::FailureReportingMode mode =
+                                                             QAbstractItemModelTester::FailureReportingMode::QtTest)
 {
+    if (model.findChild<RowObjectsAsText*>())
+        return;
     auto* view = new RowObjectsAsText(model);
-    new QAbstractItemModelTester(view, QAbstractItemModelTester::FailureReportingMode::QtTest, view);
+    new QAbstractItemModelTester(view, mode, view);
 }
 
 } // namespace dbr::test

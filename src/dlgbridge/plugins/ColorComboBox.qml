@@ -19,8 +19,12 @@ Controls.ComboBox {
     signal keyPressed(int key, int modifiers, string text)
     signal keyReleased(int key, int modifiers, string text)
 
+    // The model when it is a list model; what else "model" may hold has no rows to read.
+    property QtObject rows: null
+    onModelChanged: rows = !!model && typeof model.rowCount === "function" ? model : null
+
     function rowObject(row) {
-        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) || null : null
+        return rows && row >= 0 && row < count ? rows.data(rows.index(row, 0), 0) || null : null
     }
     function rowText(row) {
         if (!row)
@@ -32,7 +36,7 @@ Controls.ComboBox {
         return row.name
     }
     function rowColor(row) {
-        return row && row.colorIndex === 256 && model ? model.byLayerColor : (row ? row.color : "transparent")
+        return row && row.colorIndex === 256 && rows ? rows.byLayerColor : (row ? row.color : "transparent")
     }
 
     implicitWidth: 180
@@ -47,14 +51,14 @@ Controls.ComboBox {
             chosenIndex = currentIndex
     }
     onActivated: {
-        if (model && index === count - 1)
-            currentIndex = model.doShowColorDialog(chosenIndex)
+        if (rows && typeof rows.doShowColorDialog === "function" && index === count - 1)
+            currentIndex = rows.doShowColorDialog(chosenIndex)
     }
     Keys.onPressed: combo.keyPressed(event.key, event.modifiers, event.text)
     Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)
 
     Connections {
-        target: typeof combo.model === "object" ? combo.model : null
+        target: combo.rows
         ignoreUnknownSignals: true
         function onModelReset() { ++combo.rebuilds }
         function onByLayerColorChanged() { ++combo.rebuilds }

@@ -21,8 +21,12 @@ Controls.ComboBox {
     signal keyPressed(int key, int modifiers, string text)
     signal keyReleased(int key, int modifiers, string text)
 
+    // The model when it is a list model; what else "model" may hold has no rows to read.
+    property QtObject rows: null
+    onModelChanged: rows = !!model && typeof model.rowCount === "function" ? model : null
+
     function rowObject(row) {
-        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) || null : null
+        return rows && row >= 0 && row < count ? rows.data(rows.index(row, 0), 0) || null : null
     }
 
     implicitWidth: 220
@@ -41,9 +45,10 @@ Controls.ComboBox {
     // The combo takes in the new count after the model's reset, and then picks a
     // row of its own; the name is found again after that.
     function findNameBeforeReset() {
-        if (!nameBeforeReset || count === 0 || count !== model.rowCount())
+        if (!nameBeforeReset || !rows || count === 0 || count !== rows.rowCount()
+                || typeof rows.getIndexFromLocalName !== "function")
             return
-        currentIndex = model.getIndexFromLocalName(nameBeforeReset)
+        currentIndex = rows.getIndexFromLocalName(nameBeforeReset)
         nameBeforeReset = ""
     }
     onCountChanged: findNameBeforeReset()
@@ -51,10 +56,12 @@ Controls.ComboBox {
     function load() {
         // The model's own current row becomes this combo's first, so that a
         // cancel comes back to it.
-        var before = chosenName ? model.getIndexFromLocalName(chosenName) : -1
-        model.setCurrentIndexOrLoad(before)
-        model.setCurrentIndexOrLoad(count - 1)
-        currentIndex = model.currentIndex
+        if (!rows || typeof rows.setCurrentIndexOrLoad !== "function")
+            return
+        var before = chosenName ? rows.getIndexFromLocalName(chosenName) : -1
+        rows.setCurrentIndexOrLoad(before)
+        rows.setCurrentIndexOrLoad(count - 1)
+        currentIndex = rows.currentIndex
     }
     // The load row of the pop-up: the loader rebuilds the rows, so it mustn't
     // run while the row that was clicked is still handling its click. The pick
@@ -62,21 +69,21 @@ Controls.ComboBox {
     function loadFromPopup() {
         popup.close()
         Qt.callLater(function() {
-            if (!model || count === 0)
+            if (count === 0)
                 return
             load()
             activated(currentIndex)
         })
     }
     onActivated: {
-        if (model && count > 0 && index === count - 1)
+        if (count > 0 && index === count - 1)
             load()
     }
     Keys.onPressed: combo.keyPressed(event.key, event.modifiers, event.text)
     Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)
 
     Connections {
-        target: typeof combo.model === "object" ? combo.model : null
+        target: combo.rows
         ignoreUnknownSignals: true
         function onModelAboutToBeReset() {
             combo.nameBeforeReset = combo.chosenName

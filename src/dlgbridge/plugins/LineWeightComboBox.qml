@@ -15,19 +15,23 @@ Controls.ComboBox {
     signal keyPressed(int key, int modifiers, string text)
     signal keyReleased(int key, int modifiers, string text)
 
+    // The model when it is a list model; what else "model" may hold has no rows to read.
+    property QtObject rows: null
+    onModelChanged: rows = !!model && typeof model.rowCount === "function" ? model : null
+
     function rowObject(row) {
-        return model && row >= 0 && row < count ? model.data(model.index(row, 0), 0) || null : null
+        return rows && row >= 0 && row < count ? rows.data(rows.index(row, 0), 0) || null : null
     }
 
     implicitWidth: 180
     textRole: ""
-    currentIndex: model ? model.currentIndex : -1
+    currentIndex: rows && rows.currentIndex !== undefined ? rows.currentIndex : -1
     readonly property var currentObject: count >= 0 ? rowObject(currentIndex) : null
     displayText: currentObject ? currentObject.lineWeightName : ""
 
     onActivated: {
-        if (model)
-            model.onChangeCurrentComboIndex(index)
+        if (rows && typeof rows.onChangeCurrentComboIndex === "function")
+            rows.onChangeCurrentComboIndex(index)
     }
     Keys.onPressed: combo.keyPressed(event.key, event.modifiers, event.text)
     Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)
