@@ -150,8 +150,8 @@ void previewsFirstWithOurs(benchmark::State& state, int count)
     OdDbDatabase& database = drawingWith(count);
     for (auto _ : state) {
         state.PauseTiming();
-        auto model = std::make_unique<LineTypeModel>(paramsOf(database), host().guiController(),
-                                                     host().dialogFactory(), QSize(-1, -1), DoNotRegister);
+        auto model = std::make_unique<LineTypeModel>(paramsOf(database), host().guiController(), host().dialogFactory(),
+                                                     QSize(-1, -1), DoNotRegister);
         state.ResumeTiming();
         for (int row = 0; row < model->rowCount(); ++row)
             benchmark::DoNotOptimize(

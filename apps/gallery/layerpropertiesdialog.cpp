@@ -56,8 +56,8 @@ LayerPropertiesDialog::~LayerPropertiesDialog() = default;
 
 bool LayerPropertiesDialog::load(wxWindow* parent)
 {
-    return wut::doLoadDialog(this, parent, QUrl(QStringLiteral("qrc:/gallery/LayerProperties.qml")), NotResizable,
-                             {}, nullptr);
+    return wut::doLoadDialog(this, parent, QUrl(QStringLiteral("qrc:/gallery/LayerProperties.qml")), NotResizable, {},
+                             nullptr);
 }
 
 template<typename Control>
@@ -68,9 +68,8 @@ Control* LayerPropertiesDialog::control(const char* name) const
 
 CustomTypes LayerPropertiesDialog::registerCustomTypes()
 {
-    return {{QStringLiteral("LineWeightComboBox"), [](const OdString& name, qwxWindow& parent) {
-                 return std::make_unique<LineWeightCombo>(name, parent);
-             }}};
+    return {{QStringLiteral("LineWeightComboBox"),
+             [](const OdString& name, qwxWindow& parent) { return std::make_unique<LineWeightCombo>(name, parent); }}};
 }
 
 void LayerPropertiesDialog::onCreateDialog(qwxInitDialogEvent&)

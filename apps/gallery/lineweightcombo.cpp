@@ -7,8 +7,8 @@
 
 LineWeightCombo::LineWeightCombo(const OdString& name, dbr::qwxWindow& parent)
     : dbr::qwxControl(name, parent)
-    , m_model(std::make_unique<dbr::LineWeightModel>(*oa::OaApp::s_app->guiController(),
-                                                     dbr::LineWeightModelParams(), QSize(-1, -1)))
+    , m_model(std::make_unique<dbr::LineWeightModel>(*oa::OaApp::s_app->guiController(), dbr::LineWeightModelParams(),
+                                                     QSize(-1, -1)))
 {
     setQmlProperty("model", QVariant::fromValue<QObject*>(m_model.get()));
 }

@@ -14,7 +14,8 @@ const std::vector<SampleEntry>& gallerySamples()
          [] { return std::make_unique<LayerTreeSample>(); }},
         {"command", "a drawing command with its options in a command context dialog beside the command line",
          [] { return std::make_unique<CommandSample>(); }},
-        {"layer", "a layer's properties: colour, line type and line weight combos, the colour dialog, loading line types",
+        {"layer",
+         "a layer's properties: colour, line type and line weight combos, the colour dialog, loading line types",
          [] { return std::make_unique<LayerSample>(); }},
     };
     return samples;

@@ -246,9 +246,8 @@ void ScriptPlayer::clickPopupRow(const char* row)
 {
     auto* root = qobject_cast<QQuickItem*>(m_root());
     // A pop-up shows in its window's overlay, beside the root rather than under it.
-    QQuickItem* found = root && root->window()
-                            ? findVisualItem(root->window()->contentItem(), QLatin1String(row))
-                            : nullptr;
+    QQuickItem* found =
+        root && root->window() ? findVisualItem(root->window()->contentItem(), QLatin1String(row)) : nullptr;
     clickItem(found && found->isVisible() ? found : nullptr, row);
 }
 

@@ -37,7 +37,8 @@ QList<LineTypeDefinition> readLineTypeDefinitions(QIODevice& file)
         if (line.startsWith(QLatin1Char('*'))) {
             const int comma = line.indexOf(QLatin1Char(','));
             pending = LineTypeDefinition{line.mid(1, comma < 0 ? -1 : comma - 1).trimmed(),
-                                         comma < 0 ? QString() : line.mid(comma + 1).trimmed(), {}};
+                                         comma < 0 ? QString() : line.mid(comma + 1).trimmed(),
+                                         {}};
             hasHeader = !pending.name.isEmpty();
             continue;
         }

@@ -127,8 +127,8 @@ void tst_CadCombos::cleanup()
 void tst_CadCombos::runDialog(const std::function<void(TestDialog&)>& body)
 {
     TestDialog dialog;
-    QVERIFY(wut::doLoadDialog(&dialog, nullptr, testDataUrl(QStringLiteral("cadcombos.qml")), NotResizable, {},
-                              nullptr));
+    QVERIFY(
+        wut::doLoadDialog(&dialog, nullptr, testDataUrl(QStringLiteral("cadcombos.qml")), NotResizable, {}, nullptr));
     dialog.script = [&body](TestDialog& shown) {
         if (shown.waitForExposed())
             body(shown);
@@ -290,8 +290,8 @@ void tst_CadCombos::lineTypeLoadRow_fromThePopup_announcesOnlyTheLineTypeLoaded(
     m_host->dialogFactory().setupLineTypeLoaderFaker([](const QStringList&) { return QStringList{"PHANTOM"}; });
     QStringList heard;
     TestDialog dialog;
-    QVERIFY(wut::doLoadDialog(&dialog, nullptr, testDataUrl(QStringLiteral("cadcombos.qml")), NotResizable, {},
-                              nullptr));
+    QVERIFY(
+        wut::doLoadDialog(&dialog, nullptr, testDataUrl(QStringLiteral("cadcombos.qml")), NotResizable, {}, nullptr));
     dialog.bind = [&heard, &dialog](QmlChildList& list) {
         list.connectToChoiceEvent("lineType", [&heard, &dialog](qwxCommandEvent&) {
             const OdDbSymbolTableRecordPtr record = OdDbSymbolTableRecord::cast(
@@ -366,10 +366,11 @@ void tst_CadCombos::models_dieAfterTheItemsLetGo()
         QPointer<QObject> lineTypeItem = dialog.item("lineType");
         const auto watch = [&seen](QObject* model, const QPointer<QObject>& item, const QString& what) {
             QObject::connect(model, &QObject::destroyed, [&seen, item, model, what] {
-                seen.append(QStringLiteral("%1 model goes, item %2").arg(what, !item ? QStringLiteral("gone")
-                                              : item->property("model").value<QObject*>() == model
-                                                  ? QStringLiteral("still holds it")
-                                                  : QStringLiteral("let go")));
+                seen.append(QStringLiteral("%1 model goes, item %2")
+                                .arg(what, !item ? QStringLiteral("gone")
+                                           : item->property("model").value<QObject*>() == model
+                                               ? QStringLiteral("still holds it")
+                                               : QStringLiteral("let go")));
             });
         };
         watch(dialog.models()->colorModel.get(), colorItem, QStringLiteral("colour"));

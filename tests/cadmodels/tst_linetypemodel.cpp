@@ -60,8 +60,7 @@ public:
         ++drawings;
         previewColour = colour;
         previewName = qut::toQt(localName);
-        return QuickGuiController::drawLineTypePreview(width, height, colour, lineType, reference, localName,
-                                                       bitmap);
+        return QuickGuiController::drawLineTypePreview(width, height, colour, lineType, reference, localName, bitmap);
     }
 
     bool failLists = false;
@@ -304,8 +303,7 @@ void tst_LineTypeModel::model_followsTheCurrentDocument()
 {
     OdApDocManager& documents = m_host->documents();
     OdApDocument* first = documents.curDocument();
-    LineTypeModel model(paramsOf(ca::curDb()), *m_gui, m_host->dialogFactory(), QSize(-1, -1),
-                        RegisterWithDocManager);
+    LineTypeModel model(paramsOf(ca::curDb()), *m_gui, m_host->dialogFactory(), QSize(-1, -1), RegisterWithDocManager);
     test::attachModelTester(model);
     QCOMPARE(rows(model), QStringLiteral("Continuous Load..."));
 
@@ -323,8 +321,7 @@ void tst_LineTypeModel::closingAnotherDocument_changesNothing()
     OdApDocManager& documents = m_host->documents();
     OdApDocument* first = documents.curDocument();
     OdApDocument* second = documents.createDocument("Drawing2", drawing({"Dashed"}));
-    LineTypeModel model(paramsOf(ca::curDb()), *m_gui, m_host->dialogFactory(), QSize(-1, -1),
-                        RegisterWithDocManager);
+    LineTypeModel model(paramsOf(ca::curDb()), *m_gui, m_host->dialogFactory(), QSize(-1, -1), RegisterWithDocManager);
     model.setCurrentIndex(1);
     QSignalSpy reset(&model, &LineTypeModel::modelReset);
     QVERIFY(reset.isValid());
@@ -341,8 +338,7 @@ void tst_LineTypeModel::closingTheLastDocument_leavesANeutralModel()
 {
     OdApDocManager& documents = m_host->documents();
     documents.createDocument("Drawing2", drawing({"Dashed"}));
-    LineTypeModel model(paramsOf(ca::curDb()), *m_gui, m_host->dialogFactory(), QSize(-1, -1),
-                        RegisterWithDocManager);
+    LineTypeModel model(paramsOf(ca::curDb()), *m_gui, m_host->dialogFactory(), QSize(-1, -1), RegisterWithDocManager);
     test::attachModelTester(model);
     const OdDbObjectId dashed = model.getLineType(1)->objectId();
     m_host->dialogFactory().setupLineTypeLoaderFaker([](const QStringList&) { return QStringList{"DOT"}; });
@@ -435,8 +431,9 @@ void tst_LineTypeModel::load_severalLineTypes_comesBackToThePreviousRow()
     const OdDbDatabasePtr database = drawing({"Dashed"});
     LineTypeModel model(paramsOf(database.get()), *m_gui, m_host->dialogFactory(), QSize(-1, -1), DoNotRegister);
     model.setCurrentIndex(1);
-    m_host->dialogFactory().setupLineTypeLoaderFaker(
-        [](const QStringList&) { return QStringList{"CENTER", "PHANTOM"}; });
+    m_host->dialogFactory().setupLineTypeLoaderFaker([](const QStringList&) {
+        return QStringList{"CENTER", "PHANTOM"};
+    });
 
     model.setCurrentIndexOrLoad(2);
 

@@ -22,7 +22,8 @@ QString rows(LineWeightModel& model)
     QStringList texts;
     for (int row = 0; row < model.rowCount(); ++row) {
         const LineWeightObject* object = model.getLineWeight(row);
-        texts.append(QStringLiteral("%1 %2").arg(object->getLineWeightName()).arg(object->getLineWeightFactor(), 0, 'f', 2));
+        texts.append(
+            QStringLiteral("%1 %2").arg(object->getLineWeightName()).arg(object->getLineWeightFactor(), 0, 'f', 2));
     }
     return texts.join(QStringLiteral(", "));
 }

@@ -92,7 +92,6 @@ void tst_Platform::guiColours_areThemeColours()
     QVERIFY(qAbs(qut::toQt(background).lightness() - qut::toQt(text).lightness()) > 128);
 }
 
-
 void tst_Platform::objectIds_openLiveObjectsOfTheirOwnDatabase()
 {
     OdDbDatabasePtr database = OdDbDatabase::createObject();
@@ -146,9 +145,9 @@ void tst_Platform::documentManager_tellsItsReactors()
         QCOMPARE(documents.curDocument(), nullptr);
         documents.createDocument("C", OdDbDatabase::createObject());
     }
-    QCOMPARE(reactor.heard, (QStringList{"created A", "current A", "created B", "current B", "current A",
-                                         "closing B", "closed B", "closing A", "closed A", "current none",
-                                         "created C", "current C", "closing C", "closed C", "current none"}));
+    QCOMPARE(reactor.heard, (QStringList{"created A", "current A", "created B", "current B", "current A", "closing B",
+                                         "closed B", "closing A", "closed A", "current none", "created C", "current C",
+                                         "closing C", "closed C", "current none"}));
 }
 
 void tst_Platform::documentManager_letsAReactorLeaveWhileTold()

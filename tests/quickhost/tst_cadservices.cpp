@@ -56,9 +56,8 @@ QQuickItem* inShownDialog(const QString& root, const QString& name)
 {
     for (QWindow* window : QGuiApplication::topLevelWindows()) {
         auto* quickWindow = qobject_cast<QQuickWindow*>(window);
-        QQuickItem* dialog = quickWindow && quickWindow->isVisible()
-                                 ? findVisualItem(quickWindow->contentItem(), root)
-                                 : nullptr;
+        QQuickItem* dialog =
+            quickWindow && quickWindow->isVisible() ? findVisualItem(quickWindow->contentItem(), root) : nullptr;
         if (dialog)
             return name == root ? dialog : findVisualItem(dialog, name);
     }
@@ -259,9 +258,10 @@ void tst_CadServices::colorDialog_cancelled_givesNothing()
     });
     QVERIFY(!m_host->dialogFactory().chooseColor(nullptr, indexed(3), 3));
 
-    whenShown(QStringLiteral("ColorDialog"),
-              [] { QTest::keyClick(inShownDialog(QStringLiteral("ColorDialog"), QStringLiteral("ColorDialog"))->window(),
-                                   Qt::Key_Escape); });
+    whenShown(QStringLiteral("ColorDialog"), [] {
+        QTest::keyClick(inShownDialog(QStringLiteral("ColorDialog"), QStringLiteral("ColorDialog"))->window(),
+                        Qt::Key_Escape);
+    });
     QVERIFY(!m_host->dialogFactory().chooseColor(nullptr, indexed(3), 3));
 }
 

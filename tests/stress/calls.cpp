@@ -590,10 +590,10 @@ struct KindList
     }
 };
 
-using WrapperKinds = KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton,
-                              qwxStaticText, qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxNotebook,
-                              qwxChoice, qwxComboBox, qwxPanel, qwxMenu, qwxTreeCtrl, qwxColorComboBox,
-                              qwxLineTypeComboBox>;
+using WrapperKinds =
+    KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton, qwxStaticText,
+             qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxNotebook, qwxChoice, qwxComboBox, qwxPanel,
+             qwxMenu, qwxTreeCtrl, qwxColorComboBox, qwxLineTypeComboBox>;
 
 using Connection = void (*)(QmlChildList&, const OdString&, qwxWindow*, const CallContext&);
 

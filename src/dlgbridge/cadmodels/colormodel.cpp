@@ -71,8 +71,7 @@ public:
 
     std::unique_ptr<ColorObject> colorRow(int index) const
     {
-        const ColorRowInfo info =
-            gui->colorRowInfo(gui->colorAt(index, flags), toWx(byLayerColor), byLayerFlag, flags);
+        const ColorRowInfo info = gui->colorRowInfo(gui->colorAt(index, flags), toWx(byLayerColor), byLayerFlag, flags);
         return std::make_unique<ColorObject>(index, qut::toQt(info.color), qut::toQt(info.name), info.drawDiagonal,
                                              ColorRow);
     }

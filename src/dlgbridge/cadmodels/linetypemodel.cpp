@@ -179,7 +179,8 @@ LineTypeModel::LineTypeModel(const LineTypeModelParams& params, IGuiController& 
 {
     qRegisterMetaType<qut::QtWindowParent*>();
     d->rebuildRows();
-    if (OdApDocManager* manager = ca::CaApp::getOdapDocManager(); manager && registerAsReactor == RegisterWithDocManager)
+    if (OdApDocManager* manager = ca::CaApp::getOdapDocManager();
+        manager && registerAsReactor == RegisterWithDocManager)
         manager->addReactor(this);
 }
 

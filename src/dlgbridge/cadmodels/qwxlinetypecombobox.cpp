@@ -21,8 +21,8 @@ LineTypeModel* sharedModel(qwxWindow& parent)
         return nullptr;
     if (!models->lineTypeModel) {
         const LineTypeModelParams params{database, OdDbObjectId::kNull, 0, 1};
-        models->lineTypeModel = std::make_unique<LineTypeModel>(
-            params, *models->guiController, *models->dialogFactory, QSize(-1, -1), RegisterWithDocManager);
+        models->lineTypeModel = std::make_unique<LineTypeModel>(params, *models->guiController, *models->dialogFactory,
+                                                                QSize(-1, -1), RegisterWithDocManager);
     }
     return models->lineTypeModel.get();
 }

@@ -78,8 +78,9 @@ void OdApDocManager::closeDocument(OdApDocument* document)
         return;
     tell([document](OdApDocManagerReactor& reactor) { reactor.documentToBeDestroyed(document); });
     const OdString name = document->name();
-    const auto found = std::find_if(m_documents.begin(), m_documents.end(),
-                                    [document](const std::unique_ptr<OdApDocument>& open) { return open.get() == document; });
+    const auto found =
+        std::find_if(m_documents.begin(), m_documents.end(),
+                     [document](const std::unique_ptr<OdApDocument>& open) { return open.get() == document; });
     std::unique_ptr<OdApDocument> closing = std::move(*found);
     m_documents.erase(found);
     const bool wasCurrent = m_current == document;
