@@ -2,6 +2,7 @@
 
 #include "commandsample.h"
 #include "drawinglistsample.h"
+#include "layersample.h"
 #include "layertreesample.h"
 #include "printsample.h"
 #include "propertiessample.h"
@@ -19,6 +20,9 @@ const std::vector<SampleEntry>& gallerySamples()
          [] { return std::make_unique<CommandSample>(); }},
         {"properties", "a property panel: texts, numbers with units and choices edited through their property items",
          [] { return std::make_unique<PropertiesSample>(); }},
+        {"layer",
+         "a layer's properties: colour, line type and line weight combos, the colour dialog, loading line types",
+         [] { return std::make_unique<LayerSample>(); }},
     };
     return samples;
 }

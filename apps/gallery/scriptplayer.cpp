@@ -167,12 +167,16 @@ void ScriptPlayer::pressKey(Qt::Key key)
 void ScriptPlayer::sendKey(int key, const QString& text)
 {
     auto* root = qobject_cast<QQuickItem*>(m_root());
-    if (!root || !root->window())
-        return;
+    if (root && root->window())
+        sendKey(root->window(), key, text);
+}
+
+void ScriptPlayer::sendKey(QWindow* window, int key, const QString& text)
+{
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
     QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QGuiApplication::sendEvent(root->window(), &press);
-    QGuiApplication::sendEvent(root->window(), &release);
+    QGuiApplication::sendEvent(window, &press);
+    QGuiApplication::sendEvent(window, &release);
 }
 
 QQuickItem* ScriptPlayer::rowShowing(const char* view, const QString& text) const
@@ -242,6 +246,44 @@ void ScriptPlayer::clickInMessageBox(int button)
     qWarning() << "The script found no message box";
 }
 
+void ScriptPlayer::clickPopupRow(const char* row)
+{
+    auto* root = qobject_cast<QQuickItem*>(m_root());
+    // A pop-up shows in its window's overlay, beside the root rather than under it.
+    QQuickItem* found =
+        root && root->window() ? findVisualItem(root->window()->contentItem(), QLatin1String(row)) : nullptr;
+    clickItem(found && found->isVisible() ? found : nullptr, row);
+}
+
+QQuickItem* ScriptPlayer::itemInDialog(const char* dialog, const char* name) const
+{
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        auto* quickWindow = qobject_cast<QQuickWindow*>(window);
+        if (!quickWindow || !quickWindow->isVisible())
+            continue;
+        if (QQuickItem* root = findVisualItem(quickWindow->contentItem(), QLatin1String(dialog)))
+            return qstrcmp(dialog, name) == 0 ? root : findVisualItem(root, QLatin1String(name));
+    }
+    return nullptr;
+}
+
+void ScriptPlayer::clickInDialog(const char* dialog, const char* name)
+{
+    clickItem(itemInDialog(dialog, name), name);
+}
+
+void ScriptPlayer::typeInDialog(const char* dialog, const char* name, const QString& text)
+{
+    QQuickItem* target = itemInDialog(dialog, name);
+    if (!target || !target->window()) {
+        qWarning() << "The script found no item" << name;
+        return;
+    }
+    target->forceActiveFocus();
+    for (const QChar character : text)
+        sendKey(target->window(), 0, QString(character));
+}
+
 void ScriptPlayer::setOn(const char* name, const char* property, const QVariant& value)
 {
     if (QObject* target = object(name))
@@ -257,9 +299,20 @@ void ScriptPlayer::sendMouse(QWindow* window, QEvent::Type type, const QPointF& 
 
 void ScriptPlayer::saveScreenshot(const QList<QQuickItem*>& besides)
 {
-    // grabWindow() gives nothing with the software backend offscreen; an item grab does.
     QList<QQuickItem*> items{qobject_cast<QQuickItem*>(m_root())};
     items += besides;
+    grab(items);
+}
+
+void ScriptPlayer::saveWindowScreenshot()
+{
+    auto* root = qobject_cast<QQuickItem*>(m_root());
+    grab({root && root->window() ? root->window()->contentItem() : nullptr});
+}
+
+void ScriptPlayer::grab(const QList<QQuickItem*>& items)
+{
+    // grabWindow() gives nothing with the software backend offscreen; an item grab does.
     m_grabs.clear();
     if (items.contains(nullptr)) {
         qWarning() << "The script found no window to grab for a screenshot";

@@ -58,6 +58,14 @@ public:
     void clickMenuEntry(const char* menu, const char* identifier);
     // Clicks a button of the message box shown on top, in its own modal loop.
     void clickInMessageBox(int button);
+    // Clicks a row of the pop-up a combo opened, by the row's object name.
+    void clickPopupRow(const char* row);
+    // The item of that name in a dialog of the host shown in a window of its
+    // own (the colour dialog, the line type loader), found by the dialog's root name.
+    QQuickItem* itemInDialog(const char* dialog, const char* name) const;
+    void clickInDialog(const char* dialog, const char* name);
+    // Gives the item the focus and types into its own window.
+    void typeInDialog(const char* dialog, const char* name, const QString& text);
     void setOn(const char* name, const char* property, const QVariant& value);
     template<typename... Arguments>
     void invoke(const char* name, const char* method, Arguments... arguments)
@@ -67,6 +75,8 @@ public:
     // Grabs the root item, with the windows of the given items where they stand
     // beside it; the file is written when every grab is ready.
     void saveScreenshot(const QList<QQuickItem*>& besides = {});
+    // Grabs the root's whole window, with what pop-ups it shows over the root.
+    void saveWindowScreenshot();
 
 private:
     void next();
@@ -74,6 +84,8 @@ private:
     QObject* object(const char* name) const;
     QQuickItem* focusOn(const char* name) const;
     void sendKey(int key, const QString& text);
+    static void sendKey(QWindow* window, int key, const QString& text);
+    void grab(const QList<QQuickItem*>& items);
     static void sendMouse(QWindow* window, QEvent::Type type, const QPointF& at, Qt::MouseButton button,
                           Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 

@@ -41,6 +41,8 @@ QuickHost::QuickHost(const QStringList& importPaths)
     // Property items address their editors by file, in the kit this engine imports.
     for (const QString& path : m_engine.importPathList())
         qut::addQmlImportDirectory(path);
+    m_documents.createDocument("Drawing1", OdDbDatabase::createObject());
+    m_app.setDocManager(&m_documents);
     oa::OaApp::s_app = &m_app;
 }
 

@@ -8,13 +8,15 @@
 #include <QQmlEngine>
 
 #include <ca/CaApp.h>
+#include <oda/OdApDocument.h>
 
 namespace dbr::quickhost {
 
 // The reference application: one QML engine that reaches the component kit,
 // the GUI controller and the dialog factory built on it, the command line,
-// installed as the input processor, and the application object, installed as
-// oa::OaApp::s_app, both for the host's lifetime.
+// installed as the input processor, the documents, with one drawing open from
+// the start, and the application object, installed as oa::OaApp::s_app, both
+// for the host's lifetime.
 class DLGBRIDGE_QUICKHOST_EXPORT QuickHost
 {
 public:
@@ -28,6 +30,7 @@ public:
     QuickDialogFactory& dialogFactory() { return m_dialogFactory; }
     QuickCommandLine& commandLine() { return m_commandLine; }
     ca::CaApp& application() { return m_app; }
+    OdApDocManager& documents() { return m_documents; }
 
 private:
     Q_DISABLE_COPY(QuickHost)
@@ -36,6 +39,7 @@ private:
     QuickGuiController m_guiController;
     QuickDialogFactory m_dialogFactory;
     QuickCommandLine m_commandLine;
+    OdApDocManager m_documents;
     ca::CaApp m_app;
 };
 

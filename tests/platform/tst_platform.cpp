@@ -1,9 +1,39 @@
 #include <QColor>
 #include <QTest>
 
+#include <oda/OdApDocument.h>
+#include <oda/OdDbDatabase.h>
 #include <qut/qtconversions.h>
 #include <ut/UUID.h>
 #include <wut/guicolor.h>
+
+namespace {
+
+// Writes down what the document manager tells, by document name.
+class RecordingReactor : public OdApDocManagerReactor
+{
+public:
+    QStringList heard;
+    OdApDocManager* removeFrom = nullptr;
+
+    void documentCreated(OdApDocument* document) override { heard.append("created " + nameOf(document)); }
+    void documentBecameCurrent(OdApDocument* document) override { heard.append("current " + nameOf(document)); }
+    void documentToBeDestroyed(OdApDocument* document) override
+    {
+        heard.append("closing " + nameOf(document));
+        if (removeFrom)
+            removeFrom->removeReactor(this);
+    }
+    void documentDestroyed(const OdString& name) override { heard.append("closed " + qut::toQt(name)); }
+
+private:
+    static QString nameOf(const OdApDocument* document)
+    {
+        return document ? qut::toQt(document->name()) : QStringLiteral("none");
+    }
+};
+
+} // namespace
 
 class tst_Platform : public QObject
 {
@@ -15,6 +45,10 @@ private Q_SLOTS:
     void colours_convertWithAlpha();
     void guiColours_areThemeColours();
     void uuids_surviveTheirText();
+    void objectIds_openLiveObjectsOfTheirOwnDatabase();
+    void lineTypeNames_compareWithoutCase();
+    void documentManager_tellsItsReactors();
+    void documentManager_letsAReactorLeaveWhileTold();
 };
 
 void tst_Platform::strings_surviveEveryConversion_data()
@@ -70,6 +104,82 @@ void tst_Platform::uuids_surviveTheirText()
     QVERIFY(qut::toQt(text).startsWith(QLatin1Char('{')));
     QCOMPARE(ut::UUID(text), uuid);
     QVERIFY(ut::UUID(OdString("no identifier")).isNull());
+}
+
+void tst_Platform::objectIds_openLiveObjectsOfTheirOwnDatabase()
+{
+    OdDbDatabasePtr database = OdDbDatabase::createObject();
+    OdDbDatabasePtr other = OdDbDatabase::createObject();
+    const OdDbObjectId continuous = database->getLinetypeContinuousId();
+
+    QVERIFY(OdDbLinetypeTableRecord::cast(continuous.openObject()));
+    QVERIFY(!OdDbLayerTableRecord::cast(continuous.openObject()));
+    QCOMPARE(continuous.openObject()->database(), database.get());
+    QVERIFY(continuous != other->getLinetypeContinuousId());
+    QCOMPARE(continuous.handle(), other->getLinetypeContinuousId().handle());
+    QVERIFY(!OdDbObjectId(continuous.handle()).openObject());
+    QVERIFY(!OdDbObjectId::kNull.openObject());
+    QVERIFY(!OdDbObjectId(database.get(), 9999).isValid());
+
+    continuous.openObject()->erase();
+    QVERIFY(continuous.isValid());
+    QVERIFY(continuous.isErased());
+    QVERIFY(!continuous.openObject());
+    QCOMPARE(database->linetypeIds().size(), 2u);
+    QCOMPARE(database->numRefs(), 1L);
+}
+
+void tst_Platform::lineTypeNames_compareWithoutCase()
+{
+    OdDbDatabasePtr database = OdDbDatabase::createObject();
+    const OdDbObjectId dashed = database->addLinetype("Dashed", "Dashed __ __", {0.5, -0.25});
+
+    QCOMPARE(database->getLinetypeId("DASHED"), dashed);
+    QVERIFY(database->addLinetype("dashed", OdString(), {}).isNull());
+    const auto record = OdDbLinetypeTableRecord::cast(dashed.openObject());
+    QCOMPARE(record->patternLength(), 0.75);
+    QCOMPARE(record->dashLengthAt(1), -0.25);
+    QCOMPARE(record->dashLengthAt(2), 0.0);
+    QCOMPARE(database->getCELTYPE(), database->getLinetypeByLayerId());
+}
+
+void tst_Platform::documentManager_tellsItsReactors()
+{
+    RecordingReactor reactor;
+    {
+        OdApDocManager documents;
+        documents.addReactor(&reactor);
+        documents.addReactor(&reactor);
+        OdApDocument* first = documents.createDocument("A", OdDbDatabase::createObject());
+        OdApDocument* second = documents.createDocument("B", OdDbDatabase::createObject());
+        documents.activateDocument(first);
+        documents.closeDocument(second);
+        documents.closeDocument(second);
+        documents.closeDocument(first);
+        QCOMPARE(documents.curDocument(), nullptr);
+        documents.createDocument("C", OdDbDatabase::createObject());
+    }
+    QCOMPARE(reactor.heard, (QStringList{"created A", "current A", "created B", "current B", "current A", "closing B",
+                                         "closed B", "closing A", "closed A", "current none", "created C", "current C",
+                                         "closing C", "closed C", "current none"}));
+}
+
+void tst_Platform::documentManager_letsAReactorLeaveWhileTold()
+{
+    RecordingReactor leaving;
+    RecordingReactor staying;
+    OdApDocManager documents;
+    leaving.removeFrom = &documents;
+    documents.addReactor(&leaving);
+    documents.addReactor(&staying);
+    OdApDocument* first = documents.createDocument("A", OdDbDatabase::createObject());
+    documents.createDocument("B", OdDbDatabase::createObject());
+
+    documents.closeDocument(first);
+    documents.activateDocument(documents.documentAt(0));
+
+    QCOMPARE(leaving.heard.last(), QStringLiteral("closing A"));
+    QCOMPARE(staying.heard.mid(4), (QStringList{"closing A", "closed A", "current B"}));
 }
 
 QTEST_MAIN(tst_Platform)

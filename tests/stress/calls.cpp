@@ -3,6 +3,12 @@
 #include "randomqml.h"
 #include "rng.h"
 
+#include <support/objectroles.h>
+
+#include <dlgbridge/cadmodels/colormodel.h>
+#include <dlgbridge/cadmodels/linetypemodel.h>
+#include <dlgbridge/cadmodels/qwxcolorcombobox.h>
+#include <dlgbridge/cadmodels/qwxlinetypecombobox.h>
 #include <dlgbridge/controls/choicelistmodel.h>
 #include <dlgbridge/controls/qwxbitmapbutton.h>
 #include <dlgbridge/controls/qwxbutton.h>
@@ -33,6 +39,9 @@
 #include <QObject>
 
 #include <wx/bitmap.h>
+
+#include <ca/CaApp.h>
+#include <oda/OdDbDatabase.h>
 #include <wx/event.h>
 #include <wx/image.h>
 
@@ -492,6 +501,72 @@ const Calls<qwxMenu>& callsOf()
     return calls;
 }
 
+OdCmColor anyColor(Rng& rng)
+{
+    OdCmColor color;
+    switch (rng.below(4)) {
+    case 0: color.setColorIndex(std::uint16_t(rng.below(258))); break;
+    case 1: color.setRGB(std::uint8_t(rng.below(3)), 0, std::uint8_t(rng.below(3))); break;
+    case 2: color.setColor(std::uint32_t(rng.index())); break;
+    default: color.setColorMethod(OdCmColor::kNone); break;
+    }
+    return color;
+}
+
+// The shared model is the dialog's, so a call on it stands for any of its combos.
+template<>
+const Calls<qwxColorComboBox>& callsOf()
+{
+    static const Calls<qwxColorComboBox> calls{
+        [](qwxColorComboBox& w, const CallContext& c) { w.setColor(anyColor(c.rng)); },
+        [](qwxColorComboBox& w, const CallContext& c) { w.setColor(static_cast<unsigned long>(c.rng.index())); },
+        [](qwxColorComboBox& w, const CallContext&) { w.color(); },
+        [](qwxColorComboBox& w, const CallContext& c) {
+            if (ColorModel* model = w.model())
+                model->setIsVaries(c.rng.percent(50));
+        },
+        [](qwxColorComboBox& w, const CallContext& c) {
+            if (ColorModel* model = w.model())
+                model->onClicked(c.rng.percent(50) ? model->rowCount() - 1 : c.rng.index());
+        },
+        [](qwxColorComboBox& w, const CallContext& c) {
+            if (ColorModel* model = w.model())
+                model->setColor(anyColor(c.rng));
+        },
+    };
+    return calls;
+}
+
+template<>
+const Calls<qwxLineTypeComboBox>& callsOf()
+{
+    static const Calls<qwxLineTypeComboBox> calls{
+        [](qwxLineTypeComboBox& w, const CallContext& c) {
+            OdDbDatabase* database = ca::curDb();
+            const OdArray<OdDbObjectId> ids = database ? database->linetypeIds() : OdArray<OdDbObjectId>();
+            w.setSelection(ids.isEmpty() || c.rng.percent(20) ? OdDbObjectId::kNull
+                                                              : ids[unsigned(c.rng.below(int(ids.size())))]);
+        },
+        [](qwxLineTypeComboBox& w, const CallContext&) { w.getLinetype(); },
+        [](qwxLineTypeComboBox& w, const CallContext& c) {
+            if (LineTypeModel* model = w.model(); model && model->rowCount() > 0)
+                model->setCurrentIndexOrLoad(c.rng.percent(50) ? model->rowCount() - 1 : c.rng.index());
+        },
+        [](qwxLineTypeComboBox& w, const CallContext& c) {
+            if (LineTypeModel* model = w.model()) {
+                model->setIsVarious(c.rng.percent(50));
+                model->resetLineTypes(c.rng.percent(80));
+            }
+        },
+        [](qwxLineTypeComboBox& w, const CallContext& c) {
+            if (LineTypeModel* model = w.model(); model && model->getLineType(c.rng.index()))
+                const_cast<LineTypeObject*>(model->getLineType(c.rng.index()))
+                    ->lineTypePreview(c.rng.below(40), c.rng.below(12));
+        },
+    };
+    return calls;
+}
+
 // Reparenting is left to the run, which knows who outlives whom.
 template<>
 const Calls<qwxPanel>& callsOf()
@@ -510,6 +585,10 @@ void watchModelOf(qwxWindow& window)
         watch(choice->model());
     else if (auto* combo = dynamic_cast<qwxComboBox*>(&window))
         watch(combo->model());
+    else if (auto* colors = dynamic_cast<qwxColorComboBox*>(&window); colors && colors->model())
+        test::attachModelTester(*colors->model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    else if (auto* lineTypes = dynamic_cast<qwxLineTypeComboBox*>(&window); lineTypes && lineTypes->model())
+        test::attachModelTester(*lineTypes->model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
 }
 
 template<typename Window>
@@ -541,9 +620,10 @@ struct KindList
     }
 };
 
-using WrapperKinds = KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton,
-                              qwxStaticText, qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxNotebook,
-                              qwxChoice, qwxComboBox, qwxPanel, qwxMenu, qwxTreeCtrl, qwxListCtrl>;
+using WrapperKinds =
+    KindList<qwxTextCtrl, qwxSearchCtrl, qwxCheckBox, qwxRadioButton, qwxButton, qwxBitmapButton, qwxStaticText,
+             qwxToggleButton, qwxSpinCtrl, qwxStaticBitmap, qwxGauge, qwxNotebook, qwxChoice, qwxComboBox, qwxPanel,
+             qwxMenu, qwxTreeCtrl, qwxListCtrl, qwxColorComboBox, qwxLineTypeComboBox>;
 
 using Connection = void (*)(QmlChildList&, const OdString&, qwxWindow*, const CallContext&);
 

@@ -17,11 +17,14 @@
 #include <dlgbridge/hosting/qwxpanel.h>
 #include <dlgbridge/services/iwxqtpanel.h>
 
+#include <quickhost/quickhost.h>
+
 #include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 
+#include <oda/OdDbDatabase.h>
 #include <qut/qtconversions.h>
 
 #include <algorithm>
@@ -154,6 +157,7 @@ private:
     void dropPanel();
     void useTimer();
     void changeTree();
+    void changeDocuments();
     void processEvents();
 
     // What every handler does: it reads its event and calls back into the library.
@@ -182,6 +186,9 @@ private:
     Rng m_rng;
     const bool m_trace;
     int m_depth = 0;
+    // The application: services for the CAD combos, with dialogs answered at
+    // random, and the documents the line type combos follow.
+    quickhost::QuickHost m_host;
     QQmlEngine m_engine;
     RandomQml m_qml;
     TreeModelRun m_tree;
@@ -200,6 +207,27 @@ Scenario::Scenario(std::uint32_t seed, bool trace)
     , m_application(m_engine)
 {
     m_engine.addImportPath(test::qmlImportDir());
+    m_host.dialogFactory().setupMessageBoxFaker([](const wxString&, const wxString&, int, wxWindow*) { return 4; });
+    m_host.dialogFactory().setupColorDialogFaker([this](const OdCmColor&, unsigned int) -> std::optional<OdCmColor> {
+        if (m_rng.percent(30))
+            return std::nullopt;
+        OdCmColor color;
+        if (m_rng.percent(50))
+            color.setColorIndex(std::uint16_t(m_rng.below(258)));
+        else
+            color.setRGB(std::uint8_t(m_rng.below(3)), 7, std::uint8_t(m_rng.below(3)));
+        return color;
+    });
+    m_host.dialogFactory().setupLineTypeLoaderFaker([this](const QStringList& offered) -> std::optional<QStringList> {
+        if (m_rng.percent(30))
+            return std::nullopt;
+        QStringList picked;
+        for (const QString& name : offered) {
+            if (m_rng.percent(20))
+                picked.append(name);
+        }
+        return picked;
+    });
     m_dialogRoot = createQml(m_engine, m_qml.dialog());
     m_application.load(m_qml.panel());
     makeDialog();
@@ -229,6 +257,7 @@ const std::vector<Scenario::Entry>& Scenario::operations()
         {"useTimer", 2, &Scenario::useTimer},
         {"processEvents", 6, &Scenario::processEvents},
         {"changeTree", 5, &Scenario::changeTree},
+        {"changeDocuments", 2, &Scenario::changeDocuments},
     };
     return table;
 }
@@ -555,6 +584,24 @@ void Scenario::bind(QmlChildList& list)
     for (int count = m_rng.below(4); count > 0; --count) {
         const QString name = m_rng.percent(30) ? QStringLiteral("wxID_ANY") : lookupName(m_rng);
         connectRandomly(list, qut::odFromQt(name), anyWindow(), context());
+    }
+}
+
+// Opens, activates and closes drawings, the last one too, under the line type combos' model.
+void Scenario::changeDocuments()
+{
+    OdApDocManager& documents = m_host.documents();
+    const int count = documents.documentCount();
+    switch (count == 0 ? 0 : m_rng.below(3)) {
+    case 0: {
+        OdDbDatabasePtr database = OdDbDatabase::createObject();
+        for (int i = m_rng.below(4); i > 0; --i)
+            database->addLinetype(qut::odFromQt(QStringLiteral("LT%1").arg(i)), OdString(), {0.5, -0.25});
+        documents.createDocument("Drawing", database);
+        break;
+    }
+    case 1: documents.activateDocument(documents.documentAt(m_rng.below(count))); break;
+    default: documents.closeDocument(documents.documentAt(m_rng.below(count))); break;
     }
 }
 

@@ -61,11 +61,12 @@ private:
 
 // The application must exist before its first dialog; without one the
 // dialog still stands, with no services to hand down.
-QtControlModels applicationModels()
+void takeApplicationServices(QtControlModels& models)
 {
-    const oa::OaApp* application = oa::OaApp::s_app;
-    return application ? QtControlModels{application->guiController(), application->dialogFactory()}
-                       : QtControlModels{};
+    if (const oa::OaApp* application = oa::OaApp::s_app) {
+        models.guiController = application->guiController();
+        models.dialogFactory = application->dialogFactory();
+    }
 }
 
 } // namespace
@@ -74,9 +75,10 @@ class qwxDialogPrivate
 {
 public:
     explicit qwxDialogPrivate(qwxWindow& window)
-        : models(applicationModels())
-        , children(window)
-    {}
+        : children(window)
+    {
+        takeApplicationServices(models);
+    }
 
     std::unique_ptr<QwxDialogController> controller;
     std::unique_ptr<IWxQtDialog> internalDialog;

@@ -1,10 +1,11 @@
 #include "idialogfactory.h"
 
+#include <dlgbridge/core/translation_p.h>
+
 #include <QDebug>
 #include <QInputDialog>
 
 #include <wx/defs.h>
-#include <wx/translation.h>
 
 #include <oa/OaApp.h>
 #include <qut/qtconversions.h>
@@ -13,13 +14,9 @@ namespace dbr {
 
 namespace {
 
-// What wx's _() does, looked up when called rather than when the text was made.
-OdString translated(const wxString& text)
+OdString odTranslated(const wxString& text)
 {
-    const wxTranslations* translations = wxTranslations::Get();
-    const wxString* translation = translations ? translations->GetTranslatedString(text) : nullptr;
-    const wxString& result = translation ? *translation : wxTranslations::GetUntranslatedString(text);
-    return qut::odFromWx(result);
+    return qut::odFromWx(wxTranslated(text));
 }
 
 // An application may come without a factory; it gets no boxes then either.
@@ -86,10 +83,10 @@ std::optional<wxColour> IDialogFactory::dlgColor(wxWindow* parent, const wxColou
 
 std::vector<MessageButtonInfo> buttonsFromButtonStyle(MessageButtonStyle style)
 {
-    const auto ok = [] { return MessageButtonInfo{translated(wxS("&OK")), wxOK}; };
-    const auto cancel = [] { return MessageButtonInfo{translated(wxS("&Cancel")), wxCANCEL}; };
-    const auto yes = [] { return MessageButtonInfo{translated(wxS("&Yes")), wxYES}; };
-    const auto no = [] { return MessageButtonInfo{translated(wxS("&No")), wxNO}; };
+    const auto ok = [] { return MessageButtonInfo{odTranslated(wxS("&OK")), wxOK}; };
+    const auto cancel = [] { return MessageButtonInfo{odTranslated(wxS("&Cancel")), wxCANCEL}; };
+    const auto yes = [] { return MessageButtonInfo{odTranslated(wxS("&Yes")), wxYES}; };
+    const auto no = [] { return MessageButtonInfo{odTranslated(wxS("&No")), wxNO}; };
     switch (style) {
     case OkCancel: return {ok(), cancel()};
     case YesNo: return {yes(), no()};
@@ -102,13 +99,13 @@ std::vector<MessageButtonInfo> buttonsFromButtonStyle(MessageButtonStyle style)
 void showErrorDialog(const wxString& message)
 {
     if (const IDialogFactory* factory = applicationFactory())
-        factory->showErrorMessage(translated(wxS("Error")), qut::odFromWx(message), nullptr, Ok);
+        factory->showErrorMessage(odTranslated(wxS("Error")), qut::odFromWx(message), nullptr, Ok);
 }
 
 void showMessageDialog(const wxString& message)
 {
     if (const IDialogFactory* factory = applicationFactory())
-        factory->showInfoMessage(translated(wxS("Info")), qut::odFromWx(message), nullptr, Ok);
+        factory->showInfoMessage(odTranslated(wxS("Info")), qut::odFromWx(message), nullptr, Ok);
 }
 
 wxString qwxGetTextFromUser(const wxString& message, const wxString& caption)

@@ -1,4 +1,6 @@
 // The standard table from QML type to wrapper class.
+#include <dlgbridge/cadmodels/qwxcolorcombobox.h>
+#include <dlgbridge/cadmodels/qwxlinetypecombobox.h>
 #include <dlgbridge/controls/qwxbitmapbutton.h>
 #include <dlgbridge/controls/qwxbutton.h>
 #include <dlgbridge/controls/qwxcheckbox.h>
@@ -87,6 +89,8 @@ QHash<QString, StandardWrapperFactory> makeTable()
         {QStringLiteral("Panel"), &make<qwxPanel>},
         {QStringLiteral("Pane"), &make<qwxPanel>},
         {QStringLiteral("ComboBox"), &makeCombo},
+        {QStringLiteral("LineTypeComboBox"), &make<qwxLineTypeComboBox>},
+        {QStringLiteral("ColorComboBox"), &make<qwxColorComboBox>},
         {QStringLiteral("ProgressBar"), &make<qwxGauge>},
         {QStringLiteral("WxConvMenu"), &make<qwxMenu>},
     };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <type_traits>
 #include <utility>
 
@@ -13,8 +14,9 @@ class OdSmartPtr
 {
 public:
     OdSmartPtr() = default;
+    OdSmartPtr(std::nullptr_t) {}
     // Takes a new reference, as the SDK's pointers do when given a raw pointer.
-    explicit OdSmartPtr(T* object)
+    OdSmartPtr(T* object)
         : m_object(object)
     {
         if (m_object)
@@ -54,8 +56,14 @@ public:
 
     // Gives up the reference without releasing it: the caller owns it now.
     T* detach() { return std::exchange(m_object, nullptr); }
+    // Drops the reference now.
     void release() { OdSmartPtr().swap(*this); }
     void swap(OdSmartPtr& other) noexcept { std::swap(m_object, other.m_object); }
+
+    friend bool operator==(const OdSmartPtr& a, const OdSmartPtr& b) { return a.m_object == b.m_object; }
+    friend bool operator!=(const OdSmartPtr& a, const OdSmartPtr& b) { return a.m_object != b.m_object; }
+    friend bool operator==(const OdSmartPtr& a, const T* b) { return a.m_object == b; }
+    friend bool operator!=(const OdSmartPtr& a, const T* b) { return a.m_object != b; }
 
 private:
     // The count is no part of the object's constness, so a pointer to a const
