@@ -68,10 +68,13 @@ struct RowData
     std::vector<CellData> cells;
 };
 
-RowData rowOf(CellData cell)
+// A row with the cell first and default cells up to cellCount.
+RowData rowOf(CellData cell, int cellCount = 1)
 {
     RowData row;
+    row.cells.reserve(std::size_t(cellCount));
     row.cells.push_back(std::move(cell));
+    row.cells.resize(std::size_t(cellCount));
     return row;
 }
 
@@ -102,12 +105,13 @@ public:
 
     QVariant data(const QModelIndex& index, int role) const override
     {
-        const int row = index.row();
-        if (row >= 0 && row < rowCount()) {
+        // Row state needs no cell, nor a valid column.
+        if (hasRow(index.row())) {
+            const RowData& row = m_rows[std::size_t(index.row())];
             if (role == SelectedRole)
-                return m_rows[std::size_t(row)].selected;
+                return row.selected;
             if (role == EnabledRole)
-                return m_rows[std::size_t(row)].enabled;
+                return row.enabled;
         }
         const CellData* cell = cellAt(index);
         if (!cell)
@@ -232,14 +236,12 @@ public:
         if (row < 0 || row > rowCount())
             return false;
         beginInsertRows(QModelIndex(), row, row);
-        RowData added = rowOf(std::move(cell));
-        added.cells.resize(std::size_t(columnCount()));
-        m_rows.insert(m_rows.begin() + row, std::move(added));
+        m_rows.insert(m_rows.begin() + row, rowOf(std::move(cell), columnCount()));
         endInsertRows();
         return true;
     }
 
-    CellData* firstCell(int row) { return const_cast<CellData*>(std::as_const(*this).cellAt(index(row, 0))); }
+    CellData* firstCell(int row) { return cellAt(index(row, 0)); }
     const CellData* cellAt(const QModelIndex& index) const
     {
         if (!index.isValid() || !hasRow(index.row()))
