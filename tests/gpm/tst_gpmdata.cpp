@@ -467,8 +467,7 @@ void tst_GPMData::colour_startsOnItsRowAndWritesThePickedOne_data()
     // Nothing checks the row: one that isn't there writes no colour.
     QTest::newRow("no row") << colourValue(indexed(3)) << 4 << 10 << QString() << -1 << OdCmColor(OdCmColor::kNone);
     // The special rows stand for the controller's colour 0, by block here.
-    QTest::newRow("load row") << colourValue(indexed(3)) << 4 << 10 << QString() << 9
-                              << OdCmColor(OdCmColor::kByBlock);
+    QTest::newRow("load row") << colourValue(indexed(3)) << 4 << 10 << QString() << 9 << OdCmColor(OdCmColor::kByBlock);
 }
 
 void tst_GPMData::colour_startsOnItsRowAndWritesThePickedOne()
@@ -548,8 +547,7 @@ void tst_GPMData::lineType_followsTheCurrentDrawingAndLeavesWithTheItem()
     QCOMPARE(model->rowCount(), 3);
     QCOMPARE(model->index(0, 0).data(0).value<QObject*>()->property("lineTypeName").toString(),
              QStringLiteral("Continuous"));
-    QCOMPARE(model->index(1, 0).data(0).value<QObject*>()->property("lineTypeName").toString(),
-             QStringLiteral("Dot"));
+    QCOMPARE(model->index(1, 0).data(0).value<QObject*>()->property("lineTypeName").toString(), QStringLiteral("Dot"));
     GPMLineTypeData::queryX(item.get())->setCurrentLineType(1);
     QCOMPARE(property->storedValue(), V(other->getLinetypeId("Dot")));
 

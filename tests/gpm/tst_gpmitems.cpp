@@ -140,10 +140,10 @@ void tst_GPMItems::registration_refusesTwiceAndUnregistered()
 void tst_GPMItems::rxInit_registersParentsFirst()
 {
     // Children before parents, so that no class is left under a parent that went.
-    for (auto uninit : {&GPMBooleanData::rxUninit, &GPMColourData::rxUninit, &GPMEnumerationData::rxUninit,
-                        &GPMIntegerData::rxUninit, &GPMLineTypeData::rxUninit, &GPMRealData::rxUninit,
-                        &GPMStringData::rxUninit, &GPMUnknownTypeData::rxUninit, &GPMCategoryItem::rxUninit,
-                        &GPMPropertyDataBase::rxUninit, &GPMTreeData::rxUninit})
+    for (auto uninit :
+         {&GPMBooleanData::rxUninit, &GPMColourData::rxUninit, &GPMEnumerationData::rxUninit, &GPMIntegerData::rxUninit,
+          &GPMLineTypeData::rxUninit, &GPMRealData::rxUninit, &GPMStringData::rxUninit, &GPMUnknownTypeData::rxUninit,
+          &GPMCategoryItem::rxUninit, &GPMPropertyDataBase::rxUninit, &GPMTreeData::rxUninit})
         uninit();
 
     GPMStringData::rxInit();
@@ -152,9 +152,9 @@ void tst_GPMItems::rxInit_registersParentsFirst()
     QCOMPARE(GPMStringData::desc()->myParent(), GPMPropertyDataBase::desc());
     QVERIFY(!GPMCategoryItem::desc());
 
-    for (auto init : {&GPMCategoryItem::rxInit, &GPMBooleanData::rxInit, &GPMColourData::rxInit,
-                      &GPMEnumerationData::rxInit, &GPMIntegerData::rxInit, &GPMLineTypeData::rxInit,
-                      &GPMRealData::rxInit, &GPMUnknownTypeData::rxInit})
+    for (auto init :
+         {&GPMCategoryItem::rxInit, &GPMBooleanData::rxInit, &GPMColourData::rxInit, &GPMEnumerationData::rxInit,
+          &GPMIntegerData::rxInit, &GPMLineTypeData::rxInit, &GPMRealData::rxInit, &GPMUnknownTypeData::rxInit})
         init();
 }
 

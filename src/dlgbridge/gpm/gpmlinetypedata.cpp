@@ -23,8 +23,8 @@ LineTypeModel* newLineTypeModel(QObject& item)
     if (!app || !app->guiController() || !app->dialogFactory())
         return nullptr;
     const LineTypeModelParams params{OdDbDatabasePtr(ca::curDb()), OdDbObjectId::kNull, 0, 1};
-    auto* model = new LineTypeModel(params, *app->guiController(), *app->dialogFactory(), QSize(-1, -1),
-                                    RegisterWithDocManager);
+    auto* model =
+        new LineTypeModel(params, *app->guiController(), *app->dialogFactory(), QSize(-1, -1), RegisterWithDocManager);
     model->setParent(&item);
     return model;
 }

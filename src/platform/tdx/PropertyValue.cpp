@@ -98,8 +98,7 @@ namespace Props {
 
 bool getValue(const PropertyValue& value, OdCmColor& color)
 {
-    if (value.kind() != PropertyValue::kColor ||
-        (value.flags() & (PropertyValue::kNoValue | PropertyValue::kVaries)))
+    if (value.kind() != PropertyValue::kColor || (value.flags() & (PropertyValue::kNoValue | PropertyValue::kVaries)))
         return false;
     color.setColor(std::uint32_t(value.payload()));
     return true;
