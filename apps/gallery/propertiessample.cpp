@@ -12,7 +12,9 @@
 #include <QQuickView>
 #include <QTextStream>
 
+#include <ca/CaApp.h>
 #include <oa/Property.h>
+#include <oda/OdDbDatabase.h>
 #include <oda/OdRxObjectImpl.h>
 #include <qut/qtconversions.h>
 
@@ -31,11 +33,12 @@ OdSmartPtr<const oa::Attribute> attribute(Arguments&&... arguments)
 
 // One wall of a drawing as the property system shows it: one property per
 // line, values in the units the drawing stores (metres, square and cubic
-// metres, kilograms, degrees).
+// metres, kilograms, degrees), its colour and line type as the drawing keeps
+// them (an index colour, a line type of the drawing).
 class Wall
 {
 public:
-    Wall()
+    explicit Wall(OdDbDatabase& drawing)
     {
         using namespace oa::PropType;
         const auto metres =
@@ -47,6 +50,11 @@ public:
         const auto readOnly = attribute<oa::ReadOnlyAttribute>();
         V material(OdString("Brick"));
         material.setVaries();
+        OdCmColor red;
+        red.setColorIndex(1);
+        V color;
+        tdx::Props::setValue(color, red);
+        drawing.addLinetype("HIDDEN", "Hidden __ __ __ __ __ __ __ __ __ __ __ __ __ __", {0.25, -0.125});
 
         general = {add("Name", String::getType(), V(OdString("Wall 1")), {}, "What the wall is called"),
                    add("Handle", String::getType(), V(OdString("1F3A")), {readOnly}, "The drawing's own key"),
@@ -56,7 +64,9 @@ public:
                                                             {"Interior", V(OdString("Interior"))},
                                                             {"Partition", V(OdString("Partition"))}})}),
                    add("Visible", Boolean::getType(), V(true), {attribute<oa::BooleanValueAttribute>("Yes", "No")}),
-                   add("Material", String::getType(), material, {}, "Differs among the selected segments")};
+                   add("Material", String::getType(), material, {}, "Differs among the selected segments"),
+                   add("Color", Color::getType(), color),
+                   add("Linetype", Linetype::getType(), V(drawing.getLinetypeId("HIDDEN")))};
         geometry = {add("Length", Length::getType(), V(4.2), {metres}),
                     add("Thickness", Distance::getType(), V(0.24), {metres}),
                     add("Height", Real::getType(), V(2.7)),
@@ -136,6 +146,16 @@ std::vector<ScriptPlayer::Step> steps(ScriptPlayer& player, QEventLoop& loop)
         // Refused by the drawing: the field goes back to 3.
         [replace] { replace("Layers", "12"); },
         [&player] { player.pressKey("Fire rating", Qt::Key_Down); },
+        // The colour combo's last row opens the colour dialog, whose own loop runs the next steps.
+        [&player] { player.click("Color"); },
+        [&player] { player.clickPopupRow("colorRow9"); },
+        [&player] { player.typeInDialog("ColorDialog", "trueColor", QStringLiteral("255,128,0")); },
+        [&player] { player.clickInDialog("ColorDialog", "colorOk"); },
+        // "Load..." opens the line type loader.
+        [&player] { player.click("Linetype"); },
+        [&player] { player.clickPopupRow("lineTypeRow2"); },
+        [&player] { player.clickInDialog("LoadLineTypesDialog", "lineType_CENTER"); },
+        [&player] { player.clickInDialog("LoadLineTypesDialog", "loadOk"); },
         [&player] { player.saveScreenshot(); },
         [&loop] { loop.quit(); },
     };
@@ -149,7 +169,7 @@ int PropertiesSample::run(dbr::quickhost::QuickHost& host, const SampleOptions& 
     dbr::fillGPMTreeDataFactory();
     int result = 0;
     {
-        Wall wall;
+        Wall wall(*ca::curDb());
         const oa::PropertyCategory general("General", 10);
         const oa::PropertyCategory geometry("Geometry", 5);
         const oa::PropertyCategory construction("Construction", 20);
@@ -187,7 +207,9 @@ int PropertiesSample::run(dbr::quickhost::QuickHost& host, const SampleOptions& 
                             qFuzzyCompare(real("Thickness"), 0.3) &&
                             shown(*wall.find("Side")) == QLatin1String("Interior") &&
                             wall.find("Layers")->storedValue().toInteger() == 3 &&
-                            wall.find("Fire rating")->storedValue().toInteger() == 90;
+                            wall.find("Fire rating")->storedValue().toInteger() == 90 &&
+                            shown(*wall.find("Color")) == QLatin1String("255,128,0") &&
+                            shown(*wall.find("Linetype")) == QLatin1String("CENTER");
         result = options.scripted && (!edited || !player.screenshotSaved()) ? 1 : 0;
     }
     dbr::clearGPMTreeDataFactory();

@@ -47,28 +47,6 @@ OdCmColor rgb(int red, int green, int blue)
     return color;
 }
 
-QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
-{
-    for (QQuickItem* child : root->childItems()) {
-        if (child->objectName() == name && child->isVisible())
-            return child;
-        if (QQuickItem* found = findVisualItem(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
-// Opens a combo's pop-up with a click and clicks the row of that name in it.
-void pickRow(QObject* combo, const QString& row)
-{
-    auto* item = qobject_cast<QQuickItem*>(combo);
-    QVERIFY(item && item->window());
-    clickItem(item);
-    QQuickItem* found = nullptr;
-    QTRY_VERIFY((found = findVisualItem(item->window()->contentItem(), row)) != nullptr);
-    clickItem(found);
-}
-
 int currentIndexOf(QObject* item)
 {
     return item->property("currentIndex").toInt();

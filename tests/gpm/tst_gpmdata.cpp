@@ -1,17 +1,26 @@
+#include <dlgbridge/cadmodels/colormodel.h>
+#include <dlgbridge/cadmodels/linetypemodel.h>
 #include <dlgbridge/gpm/avrxobjectimpl.h>
 #include <dlgbridge/gpm/factoryfunction.h>
 #include <dlgbridge/gpm/gpmbooleandata.h>
+#include <dlgbridge/gpm/gpmcolourdata.h>
 #include <dlgbridge/gpm/gpmenumerationdata.h>
+#include <dlgbridge/gpm/gpmlinetypedata.h>
 #include <dlgbridge/gpm/gpmrealdata.h>
 #include <dlgbridge/gpm/gpmtreedatafactory.h>
 #include <dlgbridge/gpm/gpmunknowntypedata.h>
+#include <quickhost/quickhost.h>
+#include <support/objectroles.h>
 #include <support/properties.h>
 
 #include <QAbstractItemModelTester>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <ca/CaApp.h>
 #include <oa/PropertyType.h>
+#include <oda/OdDbDatabase.h>
 #include <qut/qtconversions.h>
 
 #include <functional>
@@ -27,6 +36,7 @@ Q_DECLARE_METATYPE(oa::PropertyType*)
 Q_DECLARE_METATYPE(tdx::PropertyValue)
 Q_DECLARE_METATYPE(oa::AttributeCollection)
 Q_DECLARE_METATYPE(Write)
+Q_DECLARE_METATYPE(OdCmColor)
 
 namespace {
 
@@ -37,6 +47,27 @@ AvSmartPtr<GPMTreeData> itemFor(const oa::Property& property)
 {
     const AvSmartPtr<FactoryFunction> factory = FactoryFunction::queryX(property.type());
     return factory ? factory->create(property) : AvSmartPtr<GPMTreeData>();
+}
+
+OdCmColor indexed(int index)
+{
+    OdCmColor color;
+    color.setColorIndex(std::uint16_t(index));
+    return color;
+}
+
+OdCmColor rgb(int red, int green, int blue)
+{
+    OdCmColor color;
+    color.setRGB(std::uint8_t(red), std::uint8_t(green), std::uint8_t(blue));
+    return color;
+}
+
+V colourValue(const OdCmColor& color)
+{
+    V value;
+    tdx::Props::setValue(value, color);
+    return value;
 }
 
 QString text(const V& value)
@@ -96,6 +127,9 @@ class tst_GPMData : public QObject
 private Q_SLOTS:
     void initTestCase() { fillGPMTreeDataFactory(); }
     void cleanupTestCase() { clearGPMTreeDataFactory(); }
+    // The colour and line type items take their models' services from the application.
+    void init() { m_host = std::make_unique<quickhost::QuickHost>(); }
+    void cleanup() { m_host.reset(); }
 
     void values_readAsText_data();
     void values_readAsText();
@@ -109,6 +143,14 @@ private Q_SLOTS:
     void choices_writeTheirRows_data();
     void choices_writeTheirRows();
     void enumeration_withoutItsAttributeStaysEmpty();
+    void colour_startsOnItsRowAndWritesThePickedOne_data();
+    void colour_startsOnItsRowAndWritesThePickedOne();
+    void lineType_startsOnItsRowAndWritesRowsOnly();
+    void lineType_followsTheCurrentDrawingAndLeavesWithTheItem();
+    void cadValues_withoutApplicationServicesStayEmpty();
+
+private:
+    std::unique_ptr<quickhost::QuickHost> m_host;
 };
 
 void tst_GPMData::values_readAsText_data()
@@ -247,6 +289,12 @@ void tst_GPMData::refusedWrites_leaveTheRealValue_data()
         return Write(
             [index](GPMTreeData& item) { QMetaObject::invokeMethod(&item, "setCurrentIndex", Q_ARG(int, index)); });
     };
+    const auto pickColour = [](int index) {
+        return Write([index](GPMTreeData& item) { static_cast<GPMColourData&>(item).setCurrentColor(index); });
+    };
+    const auto pickLineType = [](int index) {
+        return Write([index](GPMTreeData& item) { static_cast<GPMLineTypeData&>(item).setCurrentLineType(index); });
+    };
     const auto readOnly = [](oa::AttributeCollection attributes) {
         attributes.push_back(attribute<oa::ReadOnlyAttribute>());
         return attributes;
@@ -267,6 +315,9 @@ void tst_GPMData::refusedWrites_leaveTheRealValue_data()
             << Enumeration::getType() << seven << with(sizes(false)) << choose(3);
         QTest::newRow(how + "boolean") << Boolean::getType() << V(true) << with(yesNo(false)) << choose(1);
         QTest::newRow(how + "boolean, no value") << Boolean::getType() << V(true) << with(yesNo(false)) << choose(2);
+        QTest::newRow(how + "colour") << Color::getType() << colourValue(indexed(3)) << with({}) << pickColour(2);
+        QTest::newRow(how + "line type") << Linetype::getType() << V(OdDbObjectId::kNull) << with({})
+                                         << pickLineType(0);
     }
 }
 
@@ -394,6 +445,123 @@ void tst_GPMData::enumeration_withoutItsAttributeStaysEmpty()
     const AvSmartPtr<GPMTreeData> item = itemFor(*property);
     QCOMPARE(item->property("enumerationModel").value<QAbstractListModel*>()->rowCount(), 0);
     QCOMPARE(item->property("initialCurrentIndex").toInt(), -1);
+}
+
+void tst_GPMData::colour_startsOnItsRowAndWritesThePickedOne_data()
+{
+    QTest::addColumn<V>("value");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("picked");
+    QTest::addColumn<OdCmColor>("written");
+
+    // The rows: by layer, by block, the seven named colours, then the load row.
+    QTest::newRow("named colour") << colourValue(indexed(3)) << 4 << 10 << QString() << 2 << indexed(1);
+    // A colour the list lacks gets its row, just above the load row.
+    QTest::newRow("true colour") << colourValue(rgb(10, 20, 30)) << 9 << 11 << QString() << 9 << rgb(10, 20, 30);
+    QTest::newRow("no value") << V(V::kColor, 0, V::kNoValue) << 0 << 10 << typedMessage << 3 << indexed(2);
+    // Nothing checks the row: one that isn't there writes no colour.
+    QTest::newRow("no row") << colourValue(indexed(3)) << 4 << 10 << QString() << -1 << OdCmColor(OdCmColor::kNone);
+    // The special rows stand for the controller's colour 0, by block here.
+    QTest::newRow("load row") << colourValue(indexed(3)) << 4 << 10 << QString() << 9 << OdCmColor(OdCmColor::kByBlock);
+}
+
+void tst_GPMData::colour_startsOnItsRowAndWritesThePickedOne()
+{
+    QFETCH(V, value);
+    QFETCH(int, row);
+    QFETCH(int, rows);
+    QFETCH(QString, message);
+    QFETCH(int, picked);
+    QFETCH(OdCmColor, written);
+
+    const auto property = makeProperty(oa::PropType::Color::getType(), value);
+    if (!message.isEmpty())
+        QTest::ignoreMessage(QtDebugMsg, qPrintable(message));
+    const AvSmartPtr<GPMColourData> item = GPMColourData::queryX(itemFor(*property).get());
+    QVERIFY(item);
+    QAbstractListModel* model = item->colorModel();
+    QVERIFY(model);
+    QCOMPARE(item->QObject::property("colorModel").value<QAbstractListModel*>(), model);
+    attachModelTester(*model);
+    QCOMPARE(model->rowCount(), rows);
+    QCOMPARE(item->QObject::property("initialColorIndex").toInt(), row);
+
+    QCOMPARE(heard(*item, [&] { item->setCurrentColor(picked); }), QStringList({"started", "finished true"}));
+    OdCmColor stored;
+    QVERIFY(tdx::Props::getValue(property->storedValue(), stored));
+    QCOMPARE(stored.color(), written.color());
+    // The row read at construction stays what it was.
+    QCOMPARE(item->initialColorIndex(), row);
+}
+
+void tst_GPMData::lineType_startsOnItsRowAndWritesRowsOnly()
+{
+    OdDbDatabase* drawing = ca::curDb();
+    const OdDbObjectId hidden = drawing->addLinetype("Hidden", OdString(), {0.25, -0.125});
+    const auto property = makeProperty(oa::PropType::Linetype::getType(), V(hidden));
+    const AvSmartPtr<GPMLineTypeData> item = GPMLineTypeData::queryX(itemFor(*property).get());
+    QVERIFY(item);
+    auto* model = qobject_cast<LineTypeModel*>(item->lineTypeModel());
+    QVERIFY(model);
+    attachModelTester(*model);
+    QCOMPARE(model->rowCount(), 3); // Continuous, Hidden, "Load..."
+    QCOMPARE(item->QObject::property("initialLineTypeIndex").toInt(), 1);
+
+    for (int index : {-1, 3}) {
+        QCOMPARE(heard(*item, [&] { item->setCurrentLineType(index); }), QStringList());
+        QCOMPARE(property->storedValue(), V(hidden));
+    }
+    QCOMPARE(heard(*item, [&] { item->setCurrentLineType(0); }), QStringList({"started", "finished true"}));
+    QCOMPARE(property->storedValue(), V(drawing->getLinetypeContinuousId()));
+    // "Load..." is a row like the others: it writes its null id.
+    item->setCurrentLineType(2);
+    QCOMPARE(property->storedValue(), V(OdDbObjectId::kNull));
+
+    // A value that is no line type id starts on the first row.
+    const auto number = makeProperty(oa::PropType::Linetype::getType(), V::fromInteger(1));
+    QTest::ignoreMessage(QtDebugMsg, typedMessage);
+    QCOMPARE(itemFor(*number)->property("initialLineTypeIndex").toInt(), 0);
+}
+
+void tst_GPMData::lineType_followsTheCurrentDrawingAndLeavesWithTheItem()
+{
+    OdApDocManager& documents = m_host->documents();
+    const auto property = makeProperty(oa::PropType::Linetype::getType(), V(OdDbObjectId::kNull));
+    AvSmartPtr<GPMTreeData> item = itemFor(*property);
+    QPointer<QAbstractListModel> model = GPMLineTypeData::queryX(item.get())->lineTypeModel();
+    QVERIFY(model);
+    attachModelTester(*model);
+    QCOMPARE(model->rowCount(), 2);
+
+    OdDbDatabasePtr other = OdDbDatabase::createObject();
+    other->addLinetype("Dot", OdString(), {0, -0.25});
+    OdApDocument* second = documents.createDocument("Drawing2", other);
+    QCOMPARE(model->rowCount(), 3);
+    QCOMPARE(model->index(0, 0).data(0).value<QObject*>()->property("lineTypeName").toString(),
+             QStringLiteral("Continuous"));
+    QCOMPARE(model->index(1, 0).data(0).value<QObject*>()->property("lineTypeName").toString(), QStringLiteral("Dot"));
+    GPMLineTypeData::queryX(item.get())->setCurrentLineType(1);
+    QCOMPARE(property->storedValue(), V(other->getLinetypeId("Dot")));
+
+    // Gone with the item, the model hears no more of the documents.
+    item = AvSmartPtr<GPMTreeData>();
+    QVERIFY(!model);
+    documents.closeDocument(second);
+    documents.createDocument("Drawing3", OdDbDatabase::createObject());
+}
+
+void tst_GPMData::cadValues_withoutApplicationServicesStayEmpty()
+{
+    m_host.reset();
+    const auto colour = makeProperty(oa::PropType::Color::getType(), colourValue(indexed(3)));
+    const auto lineType = makeProperty(oa::PropType::Linetype::getType(), V(OdDbObjectId::kNull));
+    const AvSmartPtr<GPMColourData> colourItem = GPMColourData::queryX(itemFor(*colour).get());
+    const AvSmartPtr<GPMLineTypeData> lineTypeItem = GPMLineTypeData::queryX(itemFor(*lineType).get());
+    QVERIFY(!colourItem->colorModel() && !lineTypeItem->lineTypeModel());
+    QCOMPARE(heard(*colourItem, [&] { colourItem->setCurrentColor(1); }), QStringList());
+    QCOMPARE(heard(*lineTypeItem, [&] { lineTypeItem->setCurrentLineType(0); }), QStringList());
 }
 
 QTEST_GUILESS_MAIN(tst_GPMData)

@@ -2,8 +2,10 @@
 #include <dlgbridge/gpm/factoryfunction.h>
 #include <dlgbridge/gpm/gpmbooleandata.h>
 #include <dlgbridge/gpm/gpmcategoryitem.h>
+#include <dlgbridge/gpm/gpmcolourdata.h>
 #include <dlgbridge/gpm/gpmenumerationdata.h>
 #include <dlgbridge/gpm/gpmintegerdata.h>
+#include <dlgbridge/gpm/gpmlinetypedata.h>
 #include <dlgbridge/gpm/gpmpropertydatabase.h>
 #include <dlgbridge/gpm/gpmrealdata.h>
 #include <dlgbridge/gpm/gpmstringdata.h>
@@ -138,9 +140,10 @@ void tst_GPMItems::registration_refusesTwiceAndUnregistered()
 void tst_GPMItems::rxInit_registersParentsFirst()
 {
     // Children before parents, so that no class is left under a parent that went.
-    for (auto uninit : {&GPMBooleanData::rxUninit, &GPMEnumerationData::rxUninit, &GPMIntegerData::rxUninit,
-                        &GPMRealData::rxUninit, &GPMStringData::rxUninit, &GPMUnknownTypeData::rxUninit,
-                        &GPMCategoryItem::rxUninit, &GPMPropertyDataBase::rxUninit, &GPMTreeData::rxUninit})
+    for (auto uninit :
+         {&GPMBooleanData::rxUninit, &GPMColourData::rxUninit, &GPMEnumerationData::rxUninit, &GPMIntegerData::rxUninit,
+          &GPMLineTypeData::rxUninit, &GPMRealData::rxUninit, &GPMStringData::rxUninit, &GPMUnknownTypeData::rxUninit,
+          &GPMCategoryItem::rxUninit, &GPMPropertyDataBase::rxUninit, &GPMTreeData::rxUninit})
         uninit();
 
     GPMStringData::rxInit();
@@ -149,8 +152,9 @@ void tst_GPMItems::rxInit_registersParentsFirst()
     QCOMPARE(GPMStringData::desc()->myParent(), GPMPropertyDataBase::desc());
     QVERIFY(!GPMCategoryItem::desc());
 
-    for (auto init : {&GPMCategoryItem::rxInit, &GPMBooleanData::rxInit, &GPMEnumerationData::rxInit,
-                      &GPMIntegerData::rxInit, &GPMRealData::rxInit, &GPMUnknownTypeData::rxInit})
+    for (auto init :
+         {&GPMCategoryItem::rxInit, &GPMBooleanData::rxInit, &GPMColourData::rxInit, &GPMEnumerationData::rxInit,
+          &GPMIntegerData::rxInit, &GPMLineTypeData::rxInit, &GPMRealData::rxInit, &GPMUnknownTypeData::rxInit})
         init();
 }
 
@@ -158,9 +162,8 @@ void tst_GPMItems::factories_stayThirteenSlotsAndDieOnClear()
 {
     const std::size_t before = odrxLiveBlocks();
     fillGPMTreeDataFactory();
-    // Colour and line type have no item yet: eleven of the thirteen types get a factory.
-    QCOMPARE(attachedFactories(), std::size_t(11));
-    QCOMPARE(odrxLiveBlocks(), before + 11);
+    QCOMPARE(attachedFactories(), std::size_t(13));
+    QCOMPARE(odrxLiveBlocks(), before + 13);
     for (oa::PropertyType* type : allTypes()) {
         QVERIFY(type->extensionManager());
         if (const AvSmartPtr<FactoryFunction> factory = FactoryFunction::queryX(type))
@@ -168,8 +171,8 @@ void tst_GPMItems::factories_stayThirteenSlotsAndDieOnClear()
     }
 
     fillGPMTreeDataFactory();
-    QCOMPARE(attachedFactories(), std::size_t(11));
-    QCOMPARE(odrxLiveBlocks(), before + 11);
+    QCOMPARE(attachedFactories(), std::size_t(13));
+    QCOMPARE(odrxLiveBlocks(), before + 13);
 
     clearGPMTreeDataFactory();
     QCOMPARE(attachedFactories(), std::size_t(0));
@@ -219,7 +222,13 @@ void tst_GPMItems::factories_makeTheItemOfEachType_data()
     QTest::newRow("string with values") << String::getType() << true << "dbr::GPMEnumerationData"
                                         << "combobox"
                                         << "EnumerationType.qml";
-    QTest::newRow("colour") << Color::getType() << false << QString() << QString() << QString();
+    // Told apart by their type, not by an editor file of their own.
+    QTest::newRow("colour") << Color::getType() << false << "dbr::GPMColourData"
+                            << "colour"
+                            << "UnknownType.qml";
+    QTest::newRow("line type") << Linetype::getType() << false << "dbr::GPMLineTypeData"
+                               << "linetype"
+                               << "UnknownType.qml";
     QTest::newRow("point") << Point::getType() << false << QString() << QString() << QString();
 }
 

@@ -2,8 +2,10 @@
 #include <dlgbridge/gpm/gpmtreedata.h>
 #include <dlgbridge/gpm/gpmtreedatafactory.h>
 #include <quickhost/propertypanelmodel.h>
+#include <quickhost/quickhost.h>
 #include <support/itemwindow.h>
 #include <support/logrecorder.h>
+#include <support/paths.h>
 #include <support/properties.h>
 #include <support/qmlfixture.h>
 
@@ -14,7 +16,9 @@
 #include <QQuickWindow>
 #include <QTest>
 
+#include <ca/CaApp.h>
 #include <oa/PropertyType.h>
+#include <oda/OdDbDatabase.h>
 #include <qut/qtconversions.h>
 
 #include <memory>
@@ -45,6 +49,20 @@ QQuickItem* findItem(QQuickItem* item, const QString& name)
     return nullptr;
 }
 
+OdCmColor indexed(int index)
+{
+    OdCmColor color;
+    color.setColorIndex(std::uint16_t(index));
+    return color;
+}
+
+V colourValue(const OdCmColor& color)
+{
+    V value;
+    tdx::Props::setValue(value, color);
+    return value;
+}
+
 void typeText(QWindow* window, const QString& text)
 {
     for (const QChar c : text)
@@ -69,6 +87,8 @@ private Q_SLOTS:
     void typing_writesBackAndRefusalsShowTheRealValue();
     void units_switchTheShownNumber();
     void choices_writeTheRowPicked();
+    void colour_writesThePaletteRowOrTheDialogsChoice();
+    void lineType_writesTheRowPickedOrLoaded();
     void readOnlyRows_takeNoInput();
     void clearing_dropsItemsTheEditorsStillShow();
     void editors_outliveTheirItem_data();
@@ -91,6 +111,9 @@ private:
     oa::PropertyCategory m_general{"General", 10};
     oa::PropertyCategory m_geometry{"Geometry", 5};
     oa::PropertyCategory m_other{"Other", 30};
+    oa::PropertyCategory m_display{"Display", 40};
+    // The application whose services the colour and line type items use.
+    std::unique_ptr<quickhost::QuickHost> m_host;
     std::vector<std::unique_ptr<oa::Property>> m_properties;
     std::unique_ptr<QmlFixture> m_qml;
     std::unique_ptr<quickhost::PropertyPanelModel> m_model;
@@ -124,6 +147,10 @@ void tst_PropertyPanel::init()
     mixed.setVaries();
     m_properties.push_back(
         named("Visible", Boolean::getType(), mixed, {attribute<oa::BooleanValueAttribute>("Yes", "No")}));
+    m_host = std::make_unique<quickhost::QuickHost>(QStringList{qmlImportDir()});
+    const OdDbObjectId hidden = ca::curDb()->addLinetype("Hidden", OdString(), {0.25, -0.125});
+    m_properties.push_back(named("Colour", Color::getType(), colourValue(indexed(3))));
+    m_properties.push_back(named("Line type", Linetype::getType(), V(hidden)));
 
     m_model = std::make_unique<quickhost::PropertyPanelModel>();
     new QAbstractItemModelTester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest, m_model.get());
@@ -131,10 +158,11 @@ void tst_PropertyPanel::init()
                          {m_properties[0].get(), m_properties[1].get(), m_properties[2].get(), m_properties[3].get()});
     m_model->addCategory(m_other, {m_properties[7].get(), m_properties[6].get(), nullptr});
     m_model->addCategory(m_geometry, {m_properties[4].get(), m_properties[5].get()});
+    m_model->addCategory(m_display, {m_properties[8].get(), m_properties[9].get()});
 
     m_qml = std::make_unique<QmlFixture>();
     m_panel = qobject_cast<QQuickItem*>(
-        m_qml->loadData("import Arvela.Components 1.0\nPropertyPanel { width: 420; height: 400 }"));
+        m_qml->loadData("import Arvela.Components 1.0\nPropertyPanel { width: 420; height: 640 }"));
     QVERIFY(m_panel);
     m_panel->setProperty("model", QVariant::fromValue<QObject*>(m_model.get()));
     m_window = std::make_unique<ItemWindow>(m_panel);
@@ -146,6 +174,7 @@ void tst_PropertyPanel::cleanup()
     m_window.reset();
     m_qml.reset();
     m_model.reset();
+    m_host.reset();
 }
 
 void tst_PropertyPanel::rows_comeByCategoryWeightWithTheirEditors()
@@ -155,8 +184,9 @@ void tst_PropertyPanel::rows_comeByCategoryWeightWithTheirEditors()
         rows << m_model->index(row, 0).data(quickhost::PropertyPanelModel::CategoryRole).toString() + ": " +
                     m_model->item(row)->label();
     QCOMPARE(rows, QStringList({"Geometry: Width", "Geometry: Material", "General: Name", "General: Count",
-                                "General: Style", "General: Locked", "Other: Visible", "Other: Position"}));
-    QVERIFY(!m_model->item(8));
+                                "General: Style", "General: Locked", "Other: Visible", "Other: Position",
+                                "Display: Colour", "Display: Line type"}));
+    QVERIFY(!m_model->item(10));
     QVERIFY(!m_model->item(-1));
 
     QVERIFY(editor("Name")->inherits("QQuickTextField"));
@@ -167,6 +197,11 @@ void tst_PropertyPanel::rows_comeByCategoryWeightWithTheirEditors()
     QCOMPARE(editor("Material")->property("text").toString(), QStringLiteral("*Varies*"));
     QCOMPARE(editor("Position")->property("text").toString(), QStringLiteral("2.5"));
     QCOMPARE(editor("Visible")->property("displayText").toString(), QStringLiteral("*Varies*"));
+    // Known by their type, these two are edited in the kit's CAD combos.
+    QCOMPARE(editor("Colour")->property("qmlType").toString(), QStringLiteral("ColorComboBox"));
+    QCOMPARE(editor("Colour")->property("displayText").toString(), QStringLiteral("Green"));
+    QCOMPARE(editor("Line type")->property("qmlType").toString(), QStringLiteral("LineTypeComboBox"));
+    QCOMPARE(editor("Line type")->property("displayText").toString(), QStringLiteral("Hidden"));
 }
 
 void tst_PropertyPanel::typing_writesBackAndRefusalsShowTheRealValue_data()
@@ -260,6 +295,66 @@ void tst_PropertyPanel::choices_writeTheRowPicked()
     QTest::keyClick(style->window(), Qt::Key_Up);
     QCOMPARE(m_properties[2]->storedValue(), V::fromInteger(3));
     QCOMPARE(style->property("displayText").toString(), QStringLiteral("Dotted"));
+}
+
+void tst_PropertyPanel::colour_writesThePaletteRowOrTheDialogsChoice()
+{
+    OdCmColor asked;
+    m_host->dialogFactory().setupColorDialogFaker([&asked](const OdCmColor& current, unsigned int) {
+        asked = current;
+        OdCmColor orange;
+        orange.setRGB(255, 128, 0);
+        return std::optional<OdCmColor>(orange);
+    });
+    const auto stored = [this] {
+        OdCmColor color;
+        return tdx::Props::getValue(m_properties[8]->storedValue(), color) ? color : OdCmColor(OdCmColor::kNone);
+    };
+    QQuickItem* colour = editor("Colour");
+
+    pickRow(colour, QStringLiteral("colorRow2"));
+    QCOMPARE(stored(), indexed(1));
+    QCOMPARE(colour->property("displayText").toString(), QStringLiteral("Red"));
+
+    // The last row opens the colour dialog on the colour shown; the colour
+    // chosen there gets a row of its own.
+    pickRow(colour, QStringLiteral("colorRow9"));
+    QCOMPARE(asked, indexed(1));
+    QTRY_COMPARE(stored().color(), 0xC2FF8000u);
+    QCOMPARE(colour->property("currentIndex").toInt(), 9);
+    QCOMPARE(colour->property("displayText").toString(), QStringLiteral("255,128,0"));
+
+    // A refused pick comes back to the colour the property holds.
+    m_properties[8]->setCheck([](const V&) { return false; });
+    QTest::ignoreMessage(QtDebugMsg, "Error setting property  \"Colour\"  value");
+    pickRow(colour, QStringLiteral("colorRow4"));
+    QCOMPARE(stored().color(), 0xC2FF8000u);
+    QTRY_COMPARE(colour->property("currentIndex").toInt(), 9);
+}
+
+void tst_PropertyPanel::lineType_writesTheRowPickedOrLoaded()
+{
+    m_host->dialogFactory().setupLineTypeLoaderFaker([](const QStringList&) { return QStringList{"DASHED"}; });
+    OdDbDatabase* drawing = ca::curDb();
+    QQuickItem* lineType = editor("Line type");
+
+    pickRow(lineType, QStringLiteral("lineTypeRow0"));
+    QCOMPARE(m_properties[9]->storedValue(), V(drawing->getLinetypeContinuousId()));
+
+    // Down to Hidden, then down to "Load...", which loads a line type and writes it.
+    lineType->forceActiveFocus();
+    QTest::keyClick(lineType->window(), Qt::Key_Down);
+    QCOMPARE(m_properties[9]->storedValue(), V(drawing->getLinetypeId("Hidden")));
+    QTest::keyClick(lineType->window(), Qt::Key_Down);
+    QTRY_COMPARE(m_properties[9]->storedValue(), V(drawing->getLinetypeId("DASHED")));
+    QCOMPARE(lineType->property("displayText").toString(), QStringLiteral("DASHED"));
+
+    // Refused, the combo goes back to the line type the property holds, wherever its row went.
+    m_properties[9]->setCheck([](const V&) { return false; });
+    QTest::ignoreMessage(QtDebugMsg, "Error setting property  \"Line type\"  value");
+    pickRow(lineType, QStringLiteral("lineTypeRow0"));
+    QCOMPARE(m_properties[9]->storedValue(), V(drawing->getLinetypeId("DASHED")));
+    QTRY_COMPARE(lineType->property("displayText").toString(), QStringLiteral("DASHED"));
 }
 
 void tst_PropertyPanel::readOnlyRows_takeNoInput()

@@ -23,6 +23,31 @@ ItemWindow::~ItemWindow()
     m_root->setParentItem(nullptr);
 }
 
+namespace {
+
+QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
+{
+    for (QQuickItem* child : root->childItems()) {
+        if (child->objectName() == name && child->isVisible())
+            return child;
+        if (QQuickItem* found = findVisualItem(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void pickRow(QObject* combo, const QString& row)
+{
+    auto* item = qobject_cast<QQuickItem*>(combo);
+    QVERIFY(item && item->window());
+    clickItem(item);
+    QQuickItem* found = nullptr;
+    QTRY_VERIFY((found = findVisualItem(item->window()->contentItem(), row)) != nullptr);
+    clickItem(found);
+}
+
 void clickItem(QObject* item)
 {
     auto* quickItem = qobject_cast<QQuickItem*>(item);

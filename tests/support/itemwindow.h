@@ -23,4 +23,8 @@ private:
 // Presses and releases the left button in the middle of a shown item.
 void clickItem(QObject* item);
 
+// Opens a combo's pop-up with a click and clicks the row of that name in it;
+// a test failure when the row doesn't show.
+void pickRow(QObject* combo, const QString& row);
+
 } // namespace dbr::test

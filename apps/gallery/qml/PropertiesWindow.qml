@@ -7,7 +7,7 @@ import Arvela.Components 1.0
 // selected, then its properties by category.
 Rectangle {
     width: 420
-    height: 800
+    height: 900
     color: "#f6f6f6"
 
     ColumnLayout {

@@ -4,6 +4,8 @@
 #include <dlgbridge/services/idialogfactory.h>
 #include <dlgbridge/services/iguicontroller.h>
 
+#include <QQmlEngine>
+
 #include <wx/gdicmn.h>
 
 #include <oda/OdDbDatabase.h>
@@ -39,7 +41,11 @@ ColorObject::ColorObject(int index, const QColor& rowColor, const QString& rowNa
     , name(rowName)
     , drawDiagonal(diagonal)
     , kind(rowKind)
-{}
+{
+    // The model owns its rows. QML takes an object that a method gives in a
+    // QVariant (the combos' model.data(...)) as its own to collect unless told.
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
 
 ColorObject::~ColorObject() = default;
 

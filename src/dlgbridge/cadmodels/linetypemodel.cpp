@@ -4,6 +4,8 @@
 #include <dlgbridge/services/idialogfactory.h>
 #include <dlgbridge/services/iguicontroller.h>
 
+#include <QQmlEngine>
+
 #include <wx/bitmap.h>
 #include <wx/gdicmn.h>
 #include <wx/image.h>
@@ -28,7 +30,11 @@ LineTypeObject::LineTypeObject(const QString& name, LineTypeModel* owner, const 
     : lineTypeName(name)
     , model(owner)
     , id(lineType)
-{}
+{
+    // The model owns its rows. QML takes an object that a method gives in a
+    // QVariant (the combos' model.data(...)) as its own to collect unless told.
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
 
 LineTypeObject::~LineTypeObject() = default;
 

@@ -3,6 +3,8 @@
 #include <dlgbridge/core/translation_p.h>
 #include <dlgbridge/services/iguicontroller.h>
 
+#include <QQmlEngine>
+
 #include <oa/SysVars.h>
 
 #include <stdexcept>
@@ -18,7 +20,11 @@ LineWeightObject::LineWeightObject(const QString& name, double factor, OdDb::Lin
     : lineWeightName(name)
     , lineWeightFactor(factor)
     , weight(lineWeight)
-{}
+{
+    // The model owns its rows. QML takes an object that a method gives in a
+    // QVariant (the combos' model.data(...)) as its own to collect unless told.
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
 
 LineWeightObject::~LineWeightObject() = default;
 

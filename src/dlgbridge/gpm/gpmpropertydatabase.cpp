@@ -112,7 +112,17 @@ void GPMPropertyDataBase::logTypedFailure() const
 
 bool GPMPropertyDataBase::writeValue(const tdx::PropertyValue& value)
 {
+    startWrite();
+    return finishWrite(value);
+}
+
+void GPMPropertyDataBase::startWrite()
+{
     Q_EMIT updateStarted(qut::toQt(OdString(d->property.GUID())));
+}
+
+bool GPMPropertyDataBase::finishWrite(const tdx::PropertyValue& value)
+{
     const bool written = d->property.setValue(value, std::nullopt);
     if (!written)
         qDebug() << "Error setting property " << label() << " value";

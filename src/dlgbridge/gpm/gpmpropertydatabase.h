@@ -52,6 +52,10 @@ protected:
     void logTypedFailure() const;
     // Writes the value between updateStarted and updateFinished; the result of the write.
     bool writeValue(const tdx::PropertyValue& value);
+    // The two halves of writeValue, for a setter that works out its value only
+    // once the update has started. finishWrite must follow startWrite.
+    void startWrite();
+    bool finishWrite(const tdx::PropertyValue& value);
     // Writes the no-value or the varies value for the texts that stand for
     // them (an empty text is no value); false for any other text, which is
     // left to the caller to parse.

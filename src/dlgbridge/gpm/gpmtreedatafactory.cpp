@@ -5,8 +5,10 @@
 #include "factoryfunction.h"
 #include "gpmbooleandata.h"
 #include "gpmcategoryitem.h"
+#include "gpmcolourdata.h"
 #include "gpmenumerationdata.h"
 #include "gpmintegerdata.h"
+#include "gpmlinetypedata.h"
 #include "gpmrealdata.h"
 #include "gpmstringdata.h"
 #include "gpmunknowntypedata.h"
@@ -42,8 +44,6 @@ AvSmartPtr<GPMTreeData> makeOrEnumeration(const oa::Property& property)
 struct Row
 {
     oa::PropertyType* (*type)();
-    // Null where the item needs the colour and line type models, which the
-    // library doesn't have yet: the type keeps no factory.
     AvSmartPtr<GPMTreeData> (*maker)(const oa::Property&);
 };
 
@@ -53,12 +53,12 @@ const std::array<Row, 13>& rows()
         {&oa::PropType::Angle::getType, &make<GPMRealData>},
         {&oa::PropType::Area::getType, &make<GPMRealData>},
         {&oa::PropType::Boolean::getType, &make<GPMBooleanData>},
-        {&oa::PropType::Color::getType, nullptr},
+        {&oa::PropType::Color::getType, &make<GPMColourData>},
         {&oa::PropType::Distance::getType, &make<GPMRealData>},
         {&oa::PropType::Enumeration::getType, &make<GPMEnumerationData>},
         {&oa::PropType::Integer::getType, &makeOrEnumeration<GPMIntegerData>},
         {&oa::PropType::Length::getType, &make<GPMRealData>},
-        {&oa::PropType::Linetype::getType, nullptr},
+        {&oa::PropType::Linetype::getType, &make<GPMLineTypeData>},
         {&oa::PropType::Mass::getType, &make<GPMRealData>},
         {&oa::PropType::Real::getType, &makeOrEnumeration<GPMRealData>},
         {&oa::PropType::String::getType, &makeOrEnumeration<GPMStringData>},
@@ -82,12 +82,8 @@ void attach(oa::PropertyType& type, const AvSmartPtr<FactoryFunction>& factory)
 
 void fillGPMTreeDataFactory()
 {
-    for (const Row& row : rows()) {
-        AvSmartPtr<FactoryFunction> factory;
-        if (row.maker)
-            factory = AvRxObjectImpl<FactoryFunction>::createObject(row.maker);
-        attach(*row.type(), factory);
-    }
+    for (const Row& row : rows())
+        attach(*row.type(), AvRxObjectImpl<FactoryFunction>::createObject(row.maker));
 }
 
 void clearGPMTreeDataFactory()
@@ -124,7 +120,8 @@ struct ClassRegistration
 };
 
 const ClassRegistration<FactoryFunction, GPMTreeData, GPMCategoryItem, GPMPropertyDataBase, GPMBooleanData,
-                        GPMEnumerationData, GPMIntegerData, GPMRealData, GPMStringData, GPMUnknownTypeData>
+                        GPMColourData, GPMEnumerationData, GPMIntegerData, GPMLineTypeData, GPMRealData, GPMStringData,
+                        GPMUnknownTypeData>
     registration;
 
 } // namespace

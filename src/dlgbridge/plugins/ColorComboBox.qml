@@ -51,8 +51,13 @@ Controls.ComboBox {
             chosenIndex = currentIndex
     }
     onActivated: {
-        if (rows && typeof rows.doShowColorDialog === "function" && index === count - 1)
+        if (rows && typeof rows.doShowColorDialog === "function" && index === count - 1) {
             currentIndex = rows.doShowColorDialog(chosenIndex)
+            // A colour new to the model takes the load row's place, so currentIndex
+            // may not have changed.
+            if (currentIndex !== count - 1)
+                chosenIndex = currentIndex
+        }
     }
     Keys.onPressed: combo.keyPressed(event.key, event.modifiers, event.text)
     Keys.onReleased: combo.keyReleased(event.key, event.modifiers, event.text)

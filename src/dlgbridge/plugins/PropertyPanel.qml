@@ -6,11 +6,24 @@ import QtQuick.Layouts 1.15
 // which loads the editor its item names. The model's rows carry the roles
 // "item" (the property's item) and "category" (its section's heading), in the
 // order of the categories' weights. A read-only row can't be edited; each
-// editor is named by its property's label.
+// editor is named by its property's label. Colours and line types are edited
+// in the kit's colour and line type combos.
 ListView {
     id: panel
 
     property real labelWidth: width * 0.4
+
+    // Colour and line type items name no editor file of their own: their type
+    // tells them apart. The colour item offers "type" as a method too, which
+    // QML then finds first.
+    function editorUrl(item) {
+        var type = typeof item.type === "function" ? item.type() : item.type
+        if (type === "colour")
+            return Qt.resolvedUrl("qml/gpm/ColorEditor.qml")
+        if (type === "linetype")
+            return Qt.resolvedUrl("qml/gpm/LineTypeEditor.qml")
+        return item.componentUrl
+    }
 
     clip: true
     spacing: 2
@@ -41,7 +54,7 @@ ListView {
             enabled: model.item ? !model.item.isReadOnly : false
             Component.onCompleted: {
                 if (model.item)
-                    setSource(model.item.componentUrl, {"itemData": model.item, "objectName": model.item.label})
+                    setSource(panel.editorUrl(model.item), {"itemData": model.item, "objectName": model.item.label})
             }
         }
     }

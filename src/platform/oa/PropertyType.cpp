@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <oda/OdDbDatabase.h>
 #include <qut/qtconversions.h>
 #include <tdx/AvRxObject.h>
 
@@ -24,6 +25,17 @@ const X* findAttribute(const AttributeCollection* attributes)
 OdString number(double value)
 {
     return qut::odFromQt(QString::number(value, 'g', 6));
+}
+
+OdString colorText(const OdCmColor& color)
+{
+    if (color.isByLayer())
+        return "ByLayer";
+    if (color.isByBlock())
+        return "ByBlock";
+    if (color.isByACI())
+        return qut::odFromQt(QStringLiteral("Color %1").arg(color.colorIndex()));
+    return qut::odFromQt(QStringLiteral("%1,%2,%3").arg(color.red()).arg(color.green()).arg(color.blue()));
 }
 
 } // namespace
@@ -77,8 +89,18 @@ bool PropertyType::valueToString(OdString& out, const tdx::PropertyValue& value,
         }
         return true;
     case tdx::PropertyValue::kString: return value.get(out);
+    case tdx::PropertyValue::kColor: {
+        OdCmColor color;
+        tdx::Props::getValue(value, color);
+        out = colorText(color);
+        return true;
+    }
     case tdx::PropertyValue::kObjectId:
-        out = qut::odFromQt(QStringLiteral("#%1").arg(value.toObjectId().handle(), 0, 16));
+        // A table record by its name, such as a line type; anything else by its handle.
+        if (const OdDbSymbolTableRecordPtr record = OdDbSymbolTableRecord::cast(value.toObjectId().openObject()))
+            out = record->getName();
+        else
+            out = qut::odFromQt(QStringLiteral("#%1").arg(value.toObjectId().handle(), 0, 16));
         return true;
     default: return false;
     }

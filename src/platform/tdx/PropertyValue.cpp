@@ -42,7 +42,9 @@ PropertyValue::PropertyValue(const OdString& value)
 
 PropertyValue::PropertyValue(const OdDbObjectId& value)
     : PropertyValue(kObjectId, value.handle(), 0)
-{}
+{
+    m_database = value.database();
+}
 
 PropertyValue PropertyValue::fromInteger(std::int64_t value)
 {
@@ -68,6 +70,7 @@ void PropertyValue::setNoValue()
 {
     m_payload = 0;
     m_text = OdString();
+    m_database = nullptr;
     m_flags = (m_flags & ~std::uint32_t(kVaries)) | kNoValue;
 }
 
@@ -82,11 +85,30 @@ void PropertyValue::swap(PropertyValue& other) noexcept
     std::swap(m_payload, other.m_payload);
     std::swap(m_flags, other.m_flags);
     std::swap(m_text, other.m_text);
+    std::swap(m_database, other.m_database);
 }
 
 bool operator==(const PropertyValue& a, const PropertyValue& b)
 {
-    return a.m_kind == b.m_kind && a.m_payload == b.m_payload && a.m_flags == b.m_flags && a.m_text == b.m_text;
+    return a.m_kind == b.m_kind && a.m_payload == b.m_payload && a.m_flags == b.m_flags && a.m_text == b.m_text &&
+           a.m_database == b.m_database;
 }
+
+namespace Props {
+
+bool getValue(const PropertyValue& value, OdCmColor& color)
+{
+    if (value.kind() != PropertyValue::kColor || (value.flags() & (PropertyValue::kNoValue | PropertyValue::kVaries)))
+        return false;
+    color.setColor(std::uint32_t(value.payload()));
+    return true;
+}
+
+void setValue(PropertyValue& value, const OdCmColor& color)
+{
+    PropertyValue(PropertyValue::kColor, color.color(), 0).swap(value);
+}
+
+} // namespace Props
 
 } // namespace tdx

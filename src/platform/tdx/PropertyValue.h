@@ -1,5 +1,6 @@
 #pragma once
 
+#include <oda/OdCmColor.h>
 #include <oda/OdDbObjectId.h>
 #include <oda/OdString.h>
 
@@ -9,7 +10,8 @@ namespace tdx {
 
 // Stand-in for the property system's value record: a kind, a 64-bit payload
 // and a flags word. Flag bit 0 means no value, bit 1 that a selection varies;
-// the higher bits are constant for a kind. Strings travel beside the payload.
+// the higher bits are constant for a kind. Strings travel beside the payload,
+// and so does the database of an object id, whose handle is the payload.
 class PropertyValue
 {
 public:
@@ -41,7 +43,7 @@ public:
     bool toBool() const { return m_payload != 0; }
     std::int64_t toInteger() const { return std::int64_t(m_payload); }
     double toReal() const;
-    OdDbObjectId toObjectId() const { return OdDbObjectId(m_payload); }
+    OdDbObjectId toObjectId() const { return OdDbObjectId(m_database, m_payload); }
 
     // False unless this holds a string with a value.
     bool get(OdString& text) const;
@@ -59,6 +61,16 @@ private:
     std::uint64_t m_payload;
     std::uint32_t m_flags;
     OdString m_text;
+    OdDbDatabase* m_database = nullptr;
 };
+
+namespace Props {
+
+// A colour travels as its packed value (kind 5). False for a value of another
+// kind, or with no value or a varying one.
+bool getValue(const PropertyValue& value, OdCmColor& color);
+void setValue(PropertyValue& value, const OdCmColor& color);
+
+} // namespace Props
 
 } // namespace tdx
