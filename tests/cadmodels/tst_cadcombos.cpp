@@ -1,3 +1,4 @@
+#include <support/cmcolors.h>
 #include <support/hostedqml.h>
 #include <support/itemwindow.h>
 #include <support/paths.h>
@@ -32,20 +33,6 @@ using namespace dbr;
 using namespace dbr::test;
 
 namespace {
-
-OdCmColor indexed(int index)
-{
-    OdCmColor color;
-    color.setColorIndex(std::uint16_t(index));
-    return color;
-}
-
-OdCmColor rgb(int red, int green, int blue)
-{
-    OdCmColor color;
-    color.setRGB(std::uint8_t(red), std::uint8_t(green), std::uint8_t(blue));
-    return color;
-}
 
 int currentIndexOf(QObject* item)
 {

@@ -1,3 +1,4 @@
+#include <support/cmcolors.h>
 #include <support/objectroles.h>
 
 #include <dlgbridge/cadmodels/colormodel.h>
@@ -13,25 +14,12 @@
 #include <memory>
 
 using namespace dbr;
+using namespace dbr::test;
 using namespace dbr::quickhost;
 
 namespace {
 
 constexpr int comboFlags = QuickGuiController::WithByLayerByBlock | QuickGuiController::WithTrueColors;
-
-OdCmColor indexed(int index)
-{
-    OdCmColor color;
-    color.setColorIndex(std::uint16_t(index));
-    return color;
-}
-
-OdCmColor rgb(int red, int green, int blue)
-{
-    OdCmColor color;
-    color.setRGB(std::uint8_t(red), std::uint8_t(green), std::uint8_t(blue));
-    return color;
-}
 
 // The rows as "name" for colours, "*" for the varies row and "+" for the load row.
 QString rows(const ColorModel& model)

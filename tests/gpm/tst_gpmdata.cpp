@@ -10,6 +10,7 @@
 #include <dlgbridge/gpm/gpmtreedatafactory.h>
 #include <dlgbridge/gpm/gpmunknowntypedata.h>
 #include <quickhost/quickhost.h>
+#include <support/cmcolors.h>
 #include <support/objectroles.h>
 #include <support/properties.h>
 
@@ -47,20 +48,6 @@ AvSmartPtr<GPMTreeData> itemFor(const oa::Property& property)
 {
     const AvSmartPtr<FactoryFunction> factory = FactoryFunction::queryX(property.type());
     return factory ? factory->create(property) : AvSmartPtr<GPMTreeData>();
-}
-
-OdCmColor indexed(int index)
-{
-    OdCmColor color;
-    color.setColorIndex(std::uint16_t(index));
-    return color;
-}
-
-OdCmColor rgb(int red, int green, int blue)
-{
-    OdCmColor color;
-    color.setRGB(std::uint8_t(red), std::uint8_t(green), std::uint8_t(blue));
-    return color;
 }
 
 V colourValue(const OdCmColor& color)

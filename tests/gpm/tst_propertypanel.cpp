@@ -3,6 +3,7 @@
 #include <dlgbridge/gpm/gpmtreedatafactory.h>
 #include <quickhost/propertypanelmodel.h>
 #include <quickhost/quickhost.h>
+#include <support/cmcolors.h>
 #include <support/itemwindow.h>
 #include <support/logrecorder.h>
 #include <support/paths.h>
@@ -47,13 +48,6 @@ QQuickItem* findItem(QQuickItem* item, const QString& name)
             return found;
     }
     return nullptr;
-}
-
-OdCmColor indexed(int index)
-{
-    OdCmColor color;
-    color.setColorIndex(std::uint16_t(index));
-    return color;
 }
 
 V colourValue(const OdCmColor& color)

@@ -1,3 +1,4 @@
+#include <support/cmcolors.h>
 #include <support/paths.h>
 
 #include <quickhost/linetypefile.h>
@@ -20,25 +21,12 @@
 #include <memory>
 
 using namespace dbr;
+using namespace dbr::test;
 using namespace dbr::quickhost;
 
 Q_DECLARE_METATYPE(OdCmColor)
 
 namespace {
-
-OdCmColor indexed(int index)
-{
-    OdCmColor color;
-    color.setColorIndex(std::uint16_t(index));
-    return color;
-}
-
-OdCmColor rgb(int red, int green, int blue)
-{
-    OdCmColor color;
-    color.setRGB(std::uint8_t(red), std::uint8_t(green), std::uint8_t(blue));
-    return color;
-}
 
 QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
 {
