@@ -267,9 +267,25 @@ QQuickItem* ScriptPlayer::itemInDialog(const char* dialog, const char* name) con
     return nullptr;
 }
 
+bool ScriptPlayer::dialogReady(const QQuickItem* item)
+{
+    // A dialog's window shows a moment after the call that opens it, and a slow
+    // machine loses the events sent to it before then.
+    constexpr int maxRetries = 20;
+    if (!item || !item->window() || item->window()->isExposed() || m_retries == maxRetries) {
+        m_retries = 0;
+        return true;
+    }
+    ++m_retries;
+    --m_next;
+    return false;
+}
+
 void ScriptPlayer::clickInDialog(const char* dialog, const char* name)
 {
-    clickItem(itemInDialog(dialog, name), name);
+    QQuickItem* target = itemInDialog(dialog, name);
+    if (dialogReady(target))
+        clickItem(target, name);
 }
 
 void ScriptPlayer::typeInDialog(const char* dialog, const char* name, const QString& text)
@@ -279,6 +295,8 @@ void ScriptPlayer::typeInDialog(const char* dialog, const char* name, const QStr
         qWarning() << "The script found no item" << name;
         return;
     }
+    if (!dialogReady(target))
+        return;
     target->forceActiveFocus();
     for (const QChar character : text)
         sendKey(target->window(), 0, QString(character));

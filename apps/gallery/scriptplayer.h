@@ -80,6 +80,8 @@ public:
 
 private:
     void next();
+    // Whether the dialog's window takes events yet; if not, the step runs again at the next tick.
+    bool dialogReady(const QQuickItem* item);
     void composeScreenshot();
     QObject* object(const char* name) const;
     QQuickItem* focusOn(const char* name) const;
@@ -93,6 +95,7 @@ private:
     const QString m_screenshotPath;
     std::vector<Step> m_steps;
     size_t m_next = 0;
+    int m_retries = 0;
     struct Grab
     {
         QSharedPointer<QQuickItemGrabResult> result;
