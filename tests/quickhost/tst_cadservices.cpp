@@ -1,4 +1,5 @@
 #include <support/cmcolors.h>
+#include <support/itemwindow.h>
 #include <support/paths.h>
 
 #include <quickhost/linetypefile.h>
@@ -27,17 +28,6 @@ using namespace dbr::quickhost;
 Q_DECLARE_METATYPE(OdCmColor)
 
 namespace {
-
-QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
-{
-    for (QQuickItem* child : root->childItems()) {
-        if (child->objectName() == name && child->isVisible())
-            return child;
-        if (QQuickItem* found = findVisualItem(child, name))
-            return found;
-    }
-    return nullptr;
-}
 
 // The item of that name in the shown window whose root is named root.
 QQuickItem* inShownDialog(const QString& root, const QString& name)
