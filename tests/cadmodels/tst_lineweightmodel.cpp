@@ -119,8 +119,6 @@ void tst_LineWeightModel::hostsList_endsOnTheThickestWeight()
     QCOMPARE(model.getLineWeight(26)->getLineWeightName(), QStringLiteral("2.11 mm"));
     QCOMPARE(model.getLineWeight(26)->getLineWeightFactor(), 1.0);
     QCOMPARE(model.getLineWeight(3)->getLineWeightName(), QStringLiteral("0.00 mm"));
-    const LineWeightModelParams defaults;
-    QVERIFY(defaults.showByBlock && defaults.showByLayer && defaults.showDefault);
 }
 
 void tst_LineWeightModel::defaultFactor_isReadAtConstruction()
