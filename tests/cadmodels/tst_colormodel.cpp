@@ -112,14 +112,12 @@ void tst_ColorModel::rows_areTheControllersListThenTheLoadRow()
     QCOMPARE(model.getCurrentIndex(), -1);
     QVERIFY(!model.isVaries());
     QCOMPARE(model.byLayerColor(), QColor(Qt::black));
-    QCOMPARE(model.tooltip(), QStringLiteral("Color Control"));
 
     ColorModel full(m_host->guiController(), m_host->dialogFactory(), QuickGuiController::FullPalette, true,
                     QSize(20, 10));
     QCOMPARE(full.rowCount(), 255 + 2);
     QVERIFY(full.isVaries());
     QCOMPARE(full.getColorObject(41)->name, QStringLiteral("Color 42"));
-    QCOMPARE(full.size(), QSize(20, 10));
 }
 
 void tst_ColorModel::emptyList_hasOnlyTheLoadRow_andVariesGoesFirst()

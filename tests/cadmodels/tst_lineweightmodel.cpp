@@ -108,7 +108,6 @@ void tst_LineWeightModel::rows_leaveOutTheSpecialWeightsTheParamsHide()
     QCOMPARE(model.getCurrentIndex(), 0);
     QCOMPARE(model.roleNames(), (QHash<int, QByteArray>{{0, "object"}}));
     QVERIFY(!model.data(model.index(0), 1).isValid());
-    QCOMPARE(model.getTooltip(), QStringLiteral("Lineweight Control"));
 }
 
 void tst_LineWeightModel::hostsList_endsOnTheThickestWeight()
