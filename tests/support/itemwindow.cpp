@@ -23,8 +23,6 @@ ItemWindow::~ItemWindow()
     m_root->setParentItem(nullptr);
 }
 
-namespace {
-
 QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
 {
     for (QQuickItem* child : root->childItems()) {
@@ -35,8 +33,6 @@ QQuickItem* findVisualItem(QQuickItem* root, const QString& name)
     }
     return nullptr;
 }
-
-} // namespace
 
 void pickRow(QObject* combo, const QString& row)
 {

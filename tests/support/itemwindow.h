@@ -20,6 +20,9 @@ private:
     QQuickItem* m_root;
 };
 
+// The first visible item of that name below root.
+QQuickItem* findVisualItem(QQuickItem* root, const QString& name);
+
 // Presses and releases the left button in the middle of a shown item.
 void clickItem(QObject* item);
 

@@ -1,6 +1,7 @@
 #include <support/logrecorder.h>
 #include <support/qmlfixture.h>
 #include <support/testhost.h>
+#include <support/treerows.h>
 
 #include <dlgbridge/controls/qwximagelist.h>
 #include <dlgbridge/views/qwxtreectrl.h>
@@ -116,40 +117,13 @@ private Q_SLOTS:
     void withoutAProperQmlModel_warnsAndAnswersEmpty();
 
 private:
-    // Builds rows from "a(b,c),d" under the root and keeps their ids by text.
-    void build(const QString& rows);
+    void build(const QString& rows) { appendTreeRows(*m_tree, rows, m_ids); }
     qwxTreeItemId id(const char* text) const { return m_ids.at(QString::fromLatin1(text)); }
 
     std::unique_ptr<TestHost> m_host;
     std::unique_ptr<qwxTreeCtrl> m_tree;
     std::map<QString, qwxTreeItemId> m_ids;
 };
-
-void tst_TreeCtrl::build(const QString& rows)
-{
-    std::vector<qwxTreeItemId> parents{m_tree->GetRootItem()};
-    qwxTreeItemId last;
-    QString text;
-    const auto flush = [&] {
-        if (!text.isEmpty())
-            last = m_ids[text] = m_tree->AppendItem(parents.back(), qut::wxFromQt(text));
-        text.clear();
-    };
-    for (const QChar c : rows) {
-        if (c == QLatin1Char('(')) {
-            flush();
-            parents.push_back(last);
-            continue;
-        }
-        if (c == QLatin1Char(',') || c == QLatin1Char(')'))
-            flush();
-        else
-            text += c;
-        if (c == QLatin1Char(')'))
-            parents.pop_back();
-    }
-    flush();
-}
 
 void tst_TreeCtrl::items_areAddedUnderTheHiddenRoot()
 {

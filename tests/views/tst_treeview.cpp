@@ -2,6 +2,7 @@
 #include <support/itemwindow.h>
 #include <support/qmlfixture.h>
 #include <support/testhost.h>
+#include <support/treerows.h>
 
 #include <dlgbridge/views/qwxtreectrl.h>
 #include <dlgbridge/views/qwxtreeevent.h>
@@ -100,27 +101,7 @@ void tst_TreeView::cleanup()
 
 void tst_TreeView::build(const QString& rows)
 {
-    std::vector<qwxTreeItemId> parents{tree().GetRootItem()};
-    qwxTreeItemId last;
-    QString text;
-    const auto flush = [&] {
-        if (!text.isEmpty())
-            last = m_ids[text] = tree().AppendItem(parents.back(), qut::wxFromQt(text));
-        text.clear();
-    };
-    for (const QChar c : rows) {
-        if (c == QLatin1Char('(')) {
-            flush();
-            parents.push_back(last);
-        } else if (c == QLatin1Char(',') || c == QLatin1Char(')')) {
-            flush();
-            if (c == QLatin1Char(')'))
-                parents.pop_back();
-        } else {
-            text += c;
-        }
-    }
-    flush();
+    appendTreeRows(tree(), rows, m_ids);
     // The view takes new rows in at the end of the turn of the event loop.
     QCoreApplication::processEvents();
 }
