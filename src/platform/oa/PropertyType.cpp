@@ -114,21 +114,8 @@ namespace PropType {
         static PropertyType type(#Name);                                                                               \
         return &type;                                                                                                  \
     }
-
-OA_PROPTYPE(Angle)
-OA_PROPTYPE(Area)
-OA_PROPTYPE(Boolean)
-OA_PROPTYPE(Color)
-OA_PROPTYPE(Distance)
-OA_PROPTYPE(Enumeration)
-OA_PROPTYPE(Integer)
-OA_PROPTYPE(Length)
-OA_PROPTYPE(Linetype)
-OA_PROPTYPE(Mass)
-OA_PROPTYPE(Real)
-OA_PROPTYPE(String)
-OA_PROPTYPE(Volume)
-OA_PROPTYPE(Point)
+OA_FOR_EACH_PROPTYPE(OA_PROPTYPE)
+#undef OA_PROPTYPE
 
 } // namespace PropType
 

@@ -48,28 +48,30 @@ private:
 
 namespace PropType {
 
+// Every property type, for a macro to expand once per name. Point is not one the
+// property tree has an item for.
+#define OA_FOR_EACH_PROPTYPE(X)                                                                                        \
+    X(Angle)                                                                                                           \
+    X(Area)                                                                                                            \
+    X(Boolean)                                                                                                         \
+    X(Color)                                                                                                           \
+    X(Distance)                                                                                                        \
+    X(Enumeration)                                                                                                     \
+    X(Integer)                                                                                                         \
+    X(Length)                                                                                                          \
+    X(Linetype)                                                                                                        \
+    X(Mass)                                                                                                            \
+    X(Real)                                                                                                            \
+    X(String)                                                                                                          \
+    X(Volume)                                                                                                          \
+    X(Point)
+
 #define OA_PROPTYPE(Name)                                                                                              \
     struct Name                                                                                                        \
     {                                                                                                                  \
         static PropertyType* getType();                                                                                \
     };
-
-OA_PROPTYPE(Angle)
-OA_PROPTYPE(Area)
-OA_PROPTYPE(Boolean)
-OA_PROPTYPE(Color)
-OA_PROPTYPE(Distance)
-OA_PROPTYPE(Enumeration)
-OA_PROPTYPE(Integer)
-OA_PROPTYPE(Length)
-OA_PROPTYPE(Linetype)
-OA_PROPTYPE(Mass)
-OA_PROPTYPE(Real)
-OA_PROPTYPE(String)
-OA_PROPTYPE(Volume)
-// Not one the property tree has an item for.
-OA_PROPTYPE(Point)
-
+OA_FOR_EACH_PROPTYPE(OA_PROPTYPE)
 #undef OA_PROPTYPE
 
 } // namespace PropType
